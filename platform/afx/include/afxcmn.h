@@ -1,0 +1,5 @@
+#pragma once
+
+// What users of the common controls include.
+
+#include "afxwin.h"

@@ -1,0 +1,5 @@
+#pragma once
+
+// What extension modules and customised windows include.
+
+#include "afxwin.h"

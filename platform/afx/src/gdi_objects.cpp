@@ -1,0 +1,77 @@
+#include "afxgdi.h"
+
+#include "handle_map.h"
+
+IMPLEMENT_DYNCREATE(CGdiObject, CObject)
+IMPLEMENT_DYNCREATE(CPen, CGdiObject)
+IMPLEMENT_DYNCREATE(CBrush, CGdiObject)
+IMPLEMENT_DYNCREATE(CBitmap, CGdiObject)
+
+// The tables are never torn down: objects of static life leave them as the process ends.
+static afx::CPointerTable<CGdiObject>& Permanent() {
+    static auto& table = *new afx::CPointerTable<CGdiObject>;
+    return table;
+}
+
+template <class TYPE>
+static auto& Temporary() {
+    static auto& objects = *new afx::CTempObjects<TYPE, &CGdiObject::m_hObject>;
+    return objects;
+}
+
+// A handle's own object counts only where it is of the type asked for.
+template <class TYPE>
+static TYPE* ObjectOf(HGDIOBJ hObject) {
+    if (hObject == nullptr) {
+        return nullptr;
+    }
+    if (TYPE* const pOwn = dynamic_cast<TYPE*>(Permanent().Lookup(hObject))) {
+        return pOwn;
+    }
+    return Temporary<TYPE>().FromHandle(hObject);
+}
+
+CGdiObject* CGdiObject::FromHandle(HGDIOBJ hObject) { return ObjectOf<CGdiObject>(hObject); }
+
+CPen* CPen::FromHandle(HPEN hPen) { return ObjectOf<CPen>(hPen); }
+
+CBrush* CBrush::FromHandle(HBRUSH hBrush) { return ObjectOf<CBrush>(hBrush); }
+
+CBitmap* CBitmap::FromHandle(HBITMAP hBitmap) { return ObjectOf<CBitmap>(hBitmap); }
+
+void CGdiObject::DeleteTempMap() {
+    Temporary<CGdiObject>().FreeAll();
+    Temporary<CPen>().FreeAll();
+    Temporary<CBrush>().FreeAll();
+    Temporary<CBitmap>().FreeAll();
+}
+
+BOOL CGdiObject::Attach(HGDIOBJ hObject) {
+    ASSERT(m_hObject == nullptr);
+    if (hObject == nullptr || !Permanent().Set(hObject, this)) {
+        return FALSE;
+    }
+    m_hObject = hObject;
+    return TRUE;
+}
+
+BOOL CGdiObject::AttachNew(HGDIOBJ hObject) {
+    if (Attach(hObject)) {
+        return TRUE;
+    }
+    ::DeleteObject(hObject);
+    return FALSE;
+}
+
+HGDIOBJ CGdiObject::Detach() {
+    const HGDIOBJ hObject = m_hObject;
+    Permanent().Remove(hObject, this);
+    m_hObject = nullptr;
+    return hObject;
+}
+
+BOOL CGdiObject::DeleteObject() { return m_hObject != nullptr && ::DeleteObject(Detach()); }
+
+BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
+    return AttachNew(::CreateCompatibleBitmap(pDC->m_hDC, nWidth, nHeight));
+}

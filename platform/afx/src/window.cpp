@@ -1,0 +1,112 @@
+#include "afxgdi.h"
+#include "afxwnd.h"
+
+#include "handle_map.h"
+
+IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
+
+BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
+ON_WM_NCDESTROY()
+END_MESSAGE_MAP()
+
+// The tables are never torn down: objects of static life leave them as the process ends.
+static afx::CPointerTable<CWnd>& Permanent() {
+    static auto& table = *new afx::CPointerTable<CWnd>;
+    return table;
+}
+
+static auto& Temporary() {
+    static auto& objects = *new afx::CTempObjects<CWnd, &CWnd::m_hWnd>;
+    return objects;
+}
+
+CWnd::~CWnd() {
+    if (m_hWnd != nullptr) {
+        CWnd::DestroyWindow();
+    }
+}
+
+CWnd* CWnd::FromHandle(HWND hWnd) {
+    if (hWnd == nullptr) {
+        return nullptr;
+    }
+    CWnd* const pOwn = Permanent().Lookup(hWnd);
+    return pOwn != nullptr ? pOwn : Temporary().FromHandle(hWnd);
+}
+
+CWnd* CWnd::FromHandlePermanent(HWND hWnd) { return hWnd != nullptr ? Permanent().Lookup(hWnd) : nullptr; }
+
+void CWnd::DeleteTempMap() { Temporary().FreeAll(); }
+
+BOOL CWnd::Attach(HWND hWndNew) {
+    ASSERT(m_hWnd == nullptr);
+    if (hWndNew == nullptr || !Permanent().Set(hWndNew, this)) {
+        return FALSE;
+    }
+    m_hWnd = hWndNew;
+    return TRUE;
+}
+
+HWND CWnd::Detach() {
+    const HWND hWnd = m_hWnd;
+    Permanent().Remove(hWnd, this);
+    m_hWnd = nullptr;
+    if (m_pfnSuper != nullptr) {
+        ::SetWindowLongPtrA(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
+        m_pfnSuper = nullptr;
+    }
+    return hWnd;
+}
+
+// A window of a class that is not the framework's has a procedure of its own, which becomes the default one.
+BOOL CWnd::TakeOver(HWND hWnd) {
+    if (!Attach(hWnd)) {
+        return FALSE;
+    }
+    m_pfnSuper = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrA(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
+    return TRUE;
+}
+
+BOOL CWnd::DestroyWindow() {
+    if (m_hWnd == nullptr) {
+        return FALSE;
+    }
+    const HWND hWnd = m_hWnd;
+    const BOOL bResult = ::DestroyWindow(hWnd);
+    // This object may be gone, unless the table still has it: WM_NCDESTROY did not come its way.
+    if (Permanent().Lookup(hWnd) == this) {
+        Detach();
+    }
+    return bResult;
+}
+
+void CWnd::OnNcDestroy() {
+    Default();
+    Detach();
+    PostNcDestroy();
+}
+
+void CWnd::PostNcDestroy() {}
+
+void CWnd::ClientToScreen(LPRECT lpRect) const {
+    POINT origin = {0, 0};
+    ::ClientToScreen(m_hWnd, &origin);
+    ::OffsetRect(lpRect, origin.x, origin.y);
+}
+
+void CWnd::ScreenToClient(LPRECT lpRect) const {
+    POINT origin = {0, 0};
+    ::ScreenToClient(m_hWnd, &origin);
+    ::OffsetRect(lpRect, origin.x, origin.y);
+}
+
+void CWnd::MoveWindow(LPCRECT lpRect, BOOL bRepaint) {
+    MoveWindow(lpRect->left, lpRect->top, lpRect->right - lpRect->left, lpRect->bottom - lpRect->top,
+               bRepaint);
+}
+
+BOOL CWnd::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags) {
+    const HWND hWndInsertAfter = pWndInsertAfter != nullptr ? pWndInsertAfter->m_hWnd : HWND_TOP;
+    return ::SetWindowPos(m_hWnd, hWndInsertAfter, x, y, cx, cy, nFlags);
+}

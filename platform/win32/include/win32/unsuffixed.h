@@ -1,0 +1,58 @@
+#pragma once
+
+// The names without the letter of the character set. They are functions, so they hide no member of the same
+// name.
+
+#include "win32/gdi.h"
+#include "win32/kernel.h"
+#include "win32/window.h"
+
+/// Inlined always, so that the module that calls it is the one beside which the file is looked for.
+[[gnu::always_inline]] inline HMODULE LoadLibrary(LPCSTR name) { return LoadLibraryA(name); }
+inline HMODULE GetModuleHandle(LPCSTR name) { return GetModuleHandleA(name); }
+inline DWORD GetModuleFileName(HMODULE module, LPSTR path, DWORD size) {
+    return GetModuleFileNameA(module, path, size);
+}
+inline ATOM RegisterClass(const WNDCLASSA* windowClass) { return RegisterClassA(windowClass); }
+inline BOOL GetClassInfo(HINSTANCE instance, LPCSTR name, LPWNDCLASSA windowClass) {
+    return GetClassInfoA(instance, name, windowClass);
+}
+inline BOOL UnregisterClass(LPCSTR name, HINSTANCE instance) { return UnregisterClassA(name, instance); }
+inline HWND CreateWindowEx(DWORD exStyle, LPCSTR className, LPCSTR name, DWORD style, int x, int y, int width,
+                           int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID param) {
+    return CreateWindowExA(exStyle, className, name, style, x, y, width, height, parent, menu, instance,
+                           param);
+}
+inline LONG GetWindowLong(HWND window, int index) { return GetWindowLongA(window, index); }
+inline LONG SetWindowLong(HWND window, int index, LONG value) { return SetWindowLongA(window, index, value); }
+inline LONG_PTR GetWindowLongPtr(HWND window, int index) { return GetWindowLongPtrA(window, index); }
+inline LONG_PTR SetWindowLongPtr(HWND window, int index, LONG_PTR value) {
+    return SetWindowLongPtrA(window, index, value);
+}
+inline DWORD GetClassLong(HWND window, int index) { return GetClassLongA(window, index); }
+inline DWORD SetClassLong(HWND window, int index, LONG value) { return SetClassLongA(window, index, value); }
+inline ULONG_PTR GetClassLongPtr(HWND window, int index) { return GetClassLongPtrA(window, index); }
+inline ULONG_PTR SetClassLongPtr(HWND window, int index, LONG_PTR value) {
+    return SetClassLongPtrA(window, index, value);
+}
+inline LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return SendMessageA(window, message, wParam, lParam);
+}
+inline LRESULT DefWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+inline LRESULT CallWindowProc(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return CallWindowProcA(procedure, window, message, wParam, lParam);
+}
+inline BOOL PostMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return PostMessageA(window, message, wParam, lParam);
+}
+inline BOOL GetMessage(LPMSG message, HWND window, UINT first, UINT last) {
+    return GetMessageA(message, window, first, last);
+}
+inline BOOL PeekMessage(LPMSG message, HWND window, UINT first, UINT last, UINT remove) {
+    return PeekMessageA(message, window, first, last, remove);
+}
+inline LRESULT DispatchMessage(const MSG* message) { return DispatchMessageA(message); }
+inline HCURSOR LoadCursor(HINSTANCE instance, LPCSTR name) { return LoadCursorA(instance, name); }
+inline int GetObject(HGDIOBJ object, int size, LPVOID out) { return GetObjectA(object, size, out); }

@@ -1,0 +1,187 @@
+#include "canvas.h"
+
+#include "surface_state.h"
+#include "window_tree.h"
+#include "wrap.h"
+
+#include "platform/faults.h"
+
+#include <new>
+
+namespace win32 {
+
+constinit CHandleTable<DeviceContext, HandleKind::DeviceContext> g_contexts;
+
+DeviceContext* FindDc(HDC dc) {
+    DeviceContext* context = g_contexts.Find(dc);
+    if (!context) {
+        FailWith(ERROR_INVALID_HANDLE);
+    }
+    return context;
+}
+
+// Puts an object into its place in a context and answers the handle of the one before.
+template <typename T>
+HGDIOBJ Swap(T*& place, T* object) {
+    const HGDIOBJ before = place ? place->handle : nullptr;
+    if (object) {
+        ++object->selected;
+    }
+    if (place) {
+        --place->selected;
+    }
+    place = object;
+    return before;
+}
+
+static HDC EnterContext(DcKind kind, HWND window) {
+    std::unique_ptr<DeviceContext> context(new (std::nothrow) DeviceContext);
+    DeviceContext* entered = context.get();
+    const HDC dc = reinterpret_cast<HDC>(g_contexts.Add(std::move(context)));
+    if (!dc) {
+        FailWith(ERROR_NOT_ENOUGH_MEMORY);
+        return nullptr;
+    }
+    entered->handle = dc;
+    entered->kind = kind;
+    entered->window = window;
+    Swap(entered->pen, FindObject<Pen>(GetStockObject(BLACK_PEN)));
+    Swap(entered->brush, FindObject<Brush>(GetStockObject(WHITE_BRUSH)));
+    return dc;
+}
+
+static void DropContext(DeviceContext& context) {
+    Swap(context.pen, static_cast<Pen*>(nullptr));
+    Swap(context.brush, static_cast<Brush*>(nullptr));
+    Swap(context.bitmap, static_cast<Bitmap*>(nullptr));
+    g_contexts.Remove(context.handle);
+}
+
+static bool MayOpen(const char* fault) {
+    return !platform::FaultTrips(fault) || FailWith(ERROR_NOT_ENOUGH_MEMORY);
+}
+
+HDC OpenWindowDc(HWND window, const RECT* paintArea) {
+    if (!MayOpen("display-context")) {
+        return nullptr;
+    }
+    const HDC dc = EnterContext(window ? DcKind::Window : DcKind::Screen, window);
+    if (dc && paintArea) {
+        DeviceContext& context = *g_contexts.Find(dc);
+        context.painting = true;
+        context.paintArea = *paintArea;
+    }
+    return dc;
+}
+
+BOOL CloseDc(HDC dc) {
+    DeviceContext* context = FindDc(dc);
+    if (!context || context->created) {
+        return FALSE;
+    }
+    const RECT dirty = context->dirty;
+    Window* window = g_windows.Find(context->window);
+    const HWND top = window ? TopLevelOf(*window).handle : nullptr;
+    DropContext(*context);
+    // Last, for the presenter may draw itself.
+    PresentSurface(top, dirty);
+    return TRUE;
+}
+
+static bool CanTake(const DeviceContext& context, const Bitmap& bitmap) {
+    return context.kind == DcKind::Memory &&
+           (bitmap.selected == 0 || bitmap.shared || context.bitmap == &bitmap);
+}
+
+} // namespace win32
+
+using namespace win32;
+
+HDC CreateDCA(LPCSTR, LPCSTR, LPCSTR, LPCVOID) {
+    const HDC dc = MayOpen("device-context") ? EnterContext(DcKind::Screen, nullptr) : nullptr;
+    if (dc) {
+        g_contexts.Find(dc)->created = true;
+    }
+    return dc;
+}
+
+HDC CreateCompatibleDC(HDC like) {
+    if ((like && !FindDc(like)) || !MayOpen("device-context")) {
+        return nullptr;
+    }
+    const HDC dc = EnterContext(DcKind::Memory, nullptr);
+    if (dc) {
+        DeviceContext& context = *g_contexts.Find(dc);
+        context.created = true;
+        Swap(context.bitmap, FindObject<Bitmap>(DefaultBitmap()));
+    }
+    return dc;
+}
+
+BOOL DeleteDC(HDC dc) {
+    DeviceContext* context = FindDc(dc);
+    if (!context || !context->created) {
+        return FALSE;
+    }
+    DropContext(*context);
+    return TRUE;
+}
+
+HGDIOBJ SelectObject(HDC dc, HGDIOBJ handle) {
+    DeviceContext* context = FindDc(dc);
+    if (!context) {
+        return nullptr;
+    }
+    if (Pen* pen = FindObject<Pen>(handle)) {
+        return Swap(context->pen, pen);
+    }
+    if (Brush* brush = FindObject<Brush>(handle)) {
+        return Swap(context->brush, brush);
+    }
+    Bitmap* bitmap = FindObject<Bitmap>(handle);
+    if (!bitmap || !CanTake(*context, *bitmap)) {
+        FailWith(bitmap ? ERROR_INVALID_PARAMETER : ERROR_INVALID_HANDLE);
+        return nullptr;
+    }
+    return Swap(context->bitmap, bitmap);
+}
+
+int IntersectClipRect(HDC dc, int left, int top, int right, int bottom) {
+    DeviceContext* context = FindDc(dc);
+    if (!context) {
+        return ERROR_REGION;
+    }
+    const RECT device = ToDeviceRect(*context, left, top, right, bottom);
+    if (context->clipped) {
+        IntersectRect(&context->clip, &context->clip, &device);
+    } else {
+        context->clip = device;
+    }
+    context->clipped = true;
+    return IsRectEmpty(&context->clip) ? NULLREGION : SIMPLEREGION;
+}
+
+int SelectClipRgn(HDC dc, HRGN region) {
+    DeviceContext* context = FindDc(dc);
+    if (!context || region) {
+        return ERROR_REGION;
+    }
+    context->clipped = false;
+    return SIMPLEREGION;
+}
+
+int GetClipBox(HDC dc, LPRECT rect) {
+    const DeviceContext* context = FindDc(dc);
+    if (!context || !rect) {
+        return ERROR_REGION;
+    }
+    Canvas canvas;
+    if (!OpenCanvas(*context, &canvas)) {
+        SetRectEmpty(rect);
+        return NULLREGION;
+    }
+    const POINT origin = ToDevice(*context, 0, 0);
+    *rect = canvas.clip;
+    OffsetRect(rect, WrapDifference(0, origin.x), WrapDifference(0, origin.y));
+    return SIMPLEREGION;
+}

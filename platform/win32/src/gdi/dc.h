@@ -1,0 +1,49 @@
+#pragma once
+
+// Device contexts.
+
+#include "objects.h"
+
+namespace win32 {
+
+enum class DcKind { Memory, Window, Screen };
+
+struct DeviceContext {
+    HDC handle = nullptr;
+    DcKind kind = DcKind::Memory;
+    bool created = false; // By CreateCompatibleDC or CreateDCA: for DeleteDC to delete.
+    HWND window = nullptr;
+
+    Pen* pen = nullptr;
+    Brush* brush = nullptr;
+    Bitmap* bitmap = nullptr; // A memory context's alone.
+
+    COLORREF bkColor = RGB(255, 255, 255);
+    COLORREF textColor = RGB(0, 0, 0);
+    int bkMode = OPAQUE;
+    int rop = R2_COPYPEN;
+    POINT windowOrg{};
+    POINT viewportOrg{};
+    POINT position{};      // Logical.
+    unsigned dotPhase = 0; // Pixels into the dotted pen's pattern.
+
+    bool painting = false; // Limited to `paintArea`, the update area of BeginPaint.
+    RECT paintArea{};
+    bool clipped = false; // Limited to `clip`, the caller's own.
+    RECT clip{};          // Both in device pixels.
+
+    RECT dirty{}; // What was drawn, in the top-level window's client pixels.
+};
+
+extern CHandleTable<DeviceContext, HandleKind::DeviceContext> g_contexts;
+
+/// Null, and error 6, when there is no such context.
+DeviceContext* FindDc(HDC dc);
+/// A context on a window (null: the screen), limited to `paintArea` where one is given. Null on failure.
+HDC OpenWindowDc(HWND window, const RECT* paintArea);
+/// Presents what was drawn and drops the context. FALSE when it is none of OpenWindowDc's.
+BOOL CloseDc(HDC dc);
+
+POINT ToDevice(const DeviceContext& context, int x, int y);
+
+} // namespace win32

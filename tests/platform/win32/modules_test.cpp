@@ -1,0 +1,159 @@
+#include "platform/faults.h"
+#include "platform/modules.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace fs = std::filesystem;
+
+static int g_rawStarts;
+
+/// Builds small modules in a folder of its own.
+class Modules : public testing::Test {
+  protected:
+    Modules() : m_folder(fs::temp_directory_path() / ("win32_modules_" + std::to_string(rand()))) {
+        fs::create_directories(m_folder);
+        g_rawStarts = 0;
+        platform::SetRawStartHook([] { ++g_rawStarts; });
+    }
+    ~Modules() override {
+        platform::SetRawStartHook(nullptr);
+        platform::ClearFaults();
+        fs::remove_all(m_folder);
+    }
+
+    /// The path of a module made of this C++ text.
+    std::string Build(const std::string& name, const std::string& text, const fs::path& folder = {}) {
+        const fs::path source = m_folder / (name + ".cpp");
+        const fs::path module = (folder.empty() ? m_folder : folder) / name;
+        std::ofstream(source) << text;
+        const std::string command =
+            "c++ -shared -fPIC -o '" + module.string() + "' '" + source.string() + "'";
+        EXPECT_EQ(std::system(command.c_str()), 0);
+        return module.string();
+    }
+    /// A module that counts its attaching and detaching into the named variable of the environment's file.
+    std::string BuildAttaching(const std::string& name, int answer) {
+        return Build(name,
+                     "#include <cstdio>\n"
+                     "extern \"C\" int DllMain(void*, unsigned reason, void*) {\n"
+                     "    if (FILE* f = std::fopen(\"" +
+                         LogPath() +
+                         "\", \"a\")) {\n"
+                         "        std::fputs(reason == 1 ? \"attach \" : \"detach \", f); std::fclose(f);\n"
+                         "    }\n"
+                         "    return " +
+                         std::to_string(answer) +
+                         ";\n"
+                         "}\n"
+                         "extern \"C\" int Answer() { return 42; }\n");
+    }
+    std::string LogPath() const { return (m_folder / "log").string(); }
+    std::string Log() const {
+        std::ifstream file(LogPath());
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    fs::path m_folder;
+};
+
+TEST_F(Modules, AttachOnceAndDetachAtTheLastRelease) {
+    const std::string path = BuildAttaching("Counted.dll", 1);
+
+    const HMODULE first = LoadLibraryA(path.c_str());
+    const HMODULE second = LoadLibraryA(path.c_str());
+    EXPECT_NE(first, nullptr);
+    EXPECT_EQ(first, second);
+    EXPECT_EQ(g_rawStarts, 1);
+    EXPECT_TRUE(FreeLibrary(first));
+    EXPECT_EQ(Log(), "attach ");
+    EXPECT_TRUE(FreeLibrary(first));
+
+    EXPECT_EQ(Log(), "attach detach ");
+    EXPECT_FALSE(FreeLibrary(first));
+    EXPECT_EQ(GetModuleHandleA(path.c_str()), nullptr);
+}
+
+TEST_F(Modules, RefusedAttachClosesTheModule) {
+    const std::string path = BuildAttaching("Refusing.dll", 0);
+
+    EXPECT_EQ(LoadLibraryA(path.c_str()), nullptr);
+
+    EXPECT_EQ(GetLastError(), ERROR_DLL_INIT_FAILED);
+    EXPECT_EQ(GetModuleHandleA(path.c_str()), nullptr);
+    EXPECT_EQ(LoadLibraryA(path.c_str()), nullptr);
+    EXPECT_EQ(Log(), "attach attach ");
+}
+
+TEST_F(Modules, ExportsAreFoundByName) {
+    const HMODULE module = LoadLibraryA(BuildAttaching("Named.dll", 1).c_str());
+
+    const auto answer = reinterpret_cast<int (*)()>(GetProcAddress(module, "Answer"));
+    ASSERT_NE(answer, nullptr);
+    EXPECT_EQ(answer(), 42);
+    EXPECT_EQ(GetProcAddress(module, "Question"), nullptr);
+    EXPECT_EQ(GetLastError(), ERROR_PROC_NOT_FOUND);
+
+    FreeLibrary(module);
+    EXPECT_EQ(GetProcAddress(module, "Answer"), nullptr);
+    EXPECT_EQ(GetLastError(), ERROR_INVALID_HANDLE);
+}
+
+TEST_F(Modules, MissingFileAndFileThatIsNoModuleDiffer) {
+    std::ofstream(m_folder / "Text.dll") << "no module";
+
+    EXPECT_EQ(LoadLibraryA((m_folder / "Missing.dll").c_str()), nullptr);
+    EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(LoadLibraryA((m_folder / "Text.dll").c_str()), nullptr);
+    EXPECT_EQ(GetLastError(), ERROR_MOD_NOT_FOUND);
+    EXPECT_EQ(LoadLibraryA("NowhereNearHere.dll"), nullptr);
+    EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(LoadLibraryA(nullptr), nullptr);
+    EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+}
+
+TEST_F(Modules, BareNameIsLookedForBesideTheCaller) {
+    char program[MAX_PATH];
+    ASSERT_GT(GetModuleFileNameA(nullptr, program, sizeof program), 0U);
+    const std::string path = Build("BesideTheCaller.dll", "int here;", fs::path(program).parent_path());
+
+    const HMODULE module = LoadLibrary("BesideTheCaller.dll");
+
+    EXPECT_NE(module, nullptr);
+    char found[MAX_PATH];
+    EXPECT_EQ(GetModuleFileNameA(module, found, sizeof found), path.size());
+    EXPECT_EQ(found, path);
+    FreeLibrary(module);
+    fs::remove(path);
+}
+
+TEST_F(Modules, ResourceFaultIsForModulesWithoutEntryPoint) {
+    const std::string plain = Build("Plain.dll", "int nothing;");
+    const std::string attaching = BuildAttaching("Attaching.dll", 1);
+    platform::ArmFault("resource", false, 0);
+
+    EXPECT_EQ(LoadLibraryA(plain.c_str()), nullptr);
+    const HMODULE module = LoadLibraryA(attaching.c_str());
+    EXPECT_NE(module, nullptr);
+    FreeLibrary(module);
+
+    platform::ClearFaults();
+    const HMODULE loaded = LoadLibraryA(plain.c_str());
+    EXPECT_NE(loaded, nullptr);
+    FreeLibrary(loaded);
+}
+
+TEST_F(Modules, FileNameIsCutToTheRoomThereIs) {
+    char name[4] = "zzz";
+
+    EXPECT_EQ(GetModuleFileNameA(nullptr, name, sizeof name), 3U);
+
+    EXPECT_EQ(name[0], '/');
+    EXPECT_EQ(name[3], '\0');
+    EXPECT_EQ(GetLastError(), ERROR_INSUFFICIENT_BUFFER);
+}
