@@ -1,0 +1,24 @@
+#include "entry/catalog.h"
+
+#include "frames/frame_tool.h"
+#include "shadows/image_shadow_tool.h"
+#include "text/text_tool.h"
+#include "tools/combo_tools.h"
+#include "tools/display_tool.h"
+#include "tools/object_page_tool.h"
+#include "tools/select_tool.h"
+
+namespace {
+
+template <class TTool>
+CObjectTool* Make() {
+    return new TTool;
+}
+
+} // namespace
+
+const std::array<ToolMaker, 11> ToolMakers = {
+    &Make<CSelectTool>,      &Make<CObjectPageTool>, &Make<CDisplayPageTool>,   &Make<CFrameTool>,
+    &Make<CImageShadowTool>, &Make<CTextTool>,       &Make<CTextDisplayTool>,   &Make<CTextShadowTool>,
+    &Make<CTextToolBase>,    &Make<CTextComboTool>,  &Make<CAdaptiveComboTool>,
+};

@@ -1,0 +1,40 @@
+#include "entry/module.h"
+
+#include <new>
+
+#include <afxext.h>
+
+namespace {
+
+AFX_EXTENSION_MODULE g_extensionModule = {};
+HINSTANCE g_hInstance = nullptr;
+HMODULE g_hResourceModule = nullptr;
+
+BOOL Attach(HINSTANCE hInstance) {
+    if (!AfxInitExtensionModule(g_extensionModule, hInstance)) {
+        return FALSE;
+    }
+    g_hInstance = hInstance;
+    g_hResourceModule = ::LoadLibraryA("PradixRC.dll");
+    // The record joins the framework's resource chain and belongs to it; a module without one works all the
+    // same.
+    static_cast<void>(new CDynLinkLibrary(g_extensionModule));
+    return TRUE;
+}
+
+} // namespace
+
+HINSTANCE ModuleInstance() { return g_hInstance; }
+
+HMODULE ResourceModule() { return g_hResourceModule; }
+
+extern "C" __attribute__((visibility("default"))) BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason,
+                                                                      LPVOID) {
+    if (dwReason == DLL_PROCESS_ATTACH) {
+        return Attach(hInstance);
+    }
+    if (dwReason == DLL_PROCESS_DETACH) {
+        AfxTermExtensionModule(g_extensionModule);
+    }
+    return TRUE;
+}

@@ -1,0 +1,20 @@
+// One axis of a rectangle, so that what holds for both axes is written once.
+#pragma once
+
+#include <afxwin.h>
+
+#include "ops/saturate.h"
+
+enum class Axis { Horizontal, Vertical };
+
+/// The left or top edge, and the right or bottom edge.
+inline long long NearEdge(const CRect& rc, Axis axis) { return axis == Axis::Horizontal ? rc.left : rc.top; }
+inline long long FarEdge(const CRect& rc, Axis axis) {
+    return axis == Axis::Horizontal ? rc.right : rc.bottom;
+}
+inline long long Extent(const CRect& rc, Axis axis) { return FarEdge(rc, axis) - NearEdge(rc, axis); }
+/// A distance along one axis.
+inline CSize Along(Axis axis, long long nDistance) {
+    const int n = Saturated(nDistance);
+    return axis == Axis::Horizontal ? CSize(n, 0) : CSize(0, n);
+}

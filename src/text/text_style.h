@@ -1,0 +1,31 @@
+// Style bits and alignment indices of text attributes, and the way to and from a text object's own fields.
+#pragma once
+
+#include "host/text_node.h"
+
+namespace text_style {
+inline constexpr int Bold = 1;
+inline constexpr int Italic = 2;
+inline constexpr int Underline = 4;
+} // namespace text_style
+
+namespace text_align {
+inline constexpr int Left = 0;
+inline constexpr int Center = 1;
+inline constexpr int Right = 2;
+inline constexpr int Mixed = 3; ///< shown when the selected objects differ
+} // namespace text_align
+
+/// Any code that is neither right nor centre counts as left.
+inline int AlignmentIndexOf(const CTextNode& node) {
+    switch (node.m_nAlignment) {
+    case text_align_code::Right: return text_align::Right;
+    case text_align_code::Center: return text_align::Center;
+    default: return text_align::Left;
+    }
+}
+
+inline int StyleBitsOf(const CTextNode& node) {
+    return (node.m_nBold == 1 ? text_style::Bold : 0) | (node.m_nItalic == 1 ? text_style::Italic : 0) |
+           (node.m_nUnderline == 1 ? text_style::Underline : 0);
+}

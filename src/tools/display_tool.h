@@ -1,0 +1,32 @@
+// The tools that set brightness, contrast and transparency.
+#pragma once
+
+#include "tools/object_tool.h"
+
+/// Kind 15.
+class CDisplayTool : public CObjectTool {
+  public:
+    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
+    const GUID& GetToolClassId() override;
+
+    /// 52. The bus kind of the host page that the tool pairs with.
+    virtual int GetPanelKind();
+};
+
+/// Kind 19: of the object page.
+class CDisplayPageTool : public CDisplayTool {
+  public:
+    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
+    const GUID& GetToolClassId() override;
+    const GUID& GetToolGroupId() override;
+    int GetPanelKind() override;
+};
+
+/// Kind 24: of the text page.
+class CTextDisplayTool : public CDisplayTool {
+  public:
+    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
+    const GUID& GetToolClassId() override;
+    const GUID& GetToolGroupId() override;
+    int GetPanelKind() override;
+};

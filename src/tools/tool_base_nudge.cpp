@@ -1,0 +1,161 @@
+// Moving the selection with the arrow keys: steps while they repeat, one undo event for the whole sequence.
+#include <algorithm>
+#include <array>
+
+#include "tools/tool_base.h"
+#include "undo/recorder.h"
+
+namespace {
+
+constexpr int NudgeStep = 1;      ///< client pixels
+constexpr int FastNudgeStep = 10; ///< client pixels, once the same key has repeated often enough
+constexpr int FastNudgeCount = 10;
+constexpr int ViewEdgeMargin = 8; ///< client pixels
+
+/// An arrow key and the direction in which it moves.
+struct NudgeKey {
+    UINT nKey;
+    int nX;
+    int nY;
+};
+
+constexpr std::array<NudgeKey, 4> NudgeKeys = {{
+    {VK_LEFT, -1, 0},
+    {VK_UP, 0, -1},
+    {VK_RIGHT, 1, 0},
+    {VK_DOWN, 0, 1},
+}};
+
+const NudgeKey* FindNudgeKey(UINT nChar) {
+    const auto found = std::find_if(NudgeKeys.begin(), NudgeKeys.end(),
+                                    [nChar](const NudgeKey& row) { return row.nKey == nChar; });
+    return found == NudgeKeys.end() ? nullptr : &*found;
+}
+
+// One axis of the way back into the view; where both rules hold, the later one wins.
+int WayBack(int nNodeNear, int nNodeFar, int nViewNear, int nViewFar) {
+    int nDelta = 0;
+    if (nNodeNear > nViewFar) {
+        nDelta = nViewFar - nNodeNear;
+    }
+    if (nNodeFar < nViewNear) {
+        nDelta = nViewNear - nNodeFar;
+    }
+    return nDelta;
+}
+
+} // namespace
+
+int CToolBase::OnKeyDown(UINT nChar, UINT nRepeat, UINT nFlags) {
+    if (IsPressed()) {
+        return 1;
+    }
+    CCanvas canvas(*this);
+    if (!canvas || canvas.Selection().IsEmpty()) {
+        return CToolCore::OnKeyDown(nChar, nRepeat, nFlags);
+    }
+    if (!IsArrowKey(nChar) && IsArrowKeyHeld()) {
+        return 1;
+    }
+    CountNudgeKey(nChar);
+    if (!IsArrowKey(nChar)) {
+        return CToolCore::OnKeyDown(nChar, nRepeat, nFlags);
+    }
+    return IsArrowKeyQueued() ? 1 : StepNudge(canvas, nChar);
+}
+
+int CToolBase::OnKeyUp(UINT nChar, UINT nRepeat, UINT nFlags) {
+    if (!IsArrowKeyHeld()) {
+        FinishNudge();
+    }
+    return CToolCore::OnKeyUp(nChar, nRepeat, nFlags);
+}
+
+bool CToolBase::IsArrowKey(UINT nChar) { return FindNudgeKey(nChar) != nullptr; }
+
+bool CToolBase::IsArrowKeyHeld() {
+    return std::any_of(NudgeKeys.begin(), NudgeKeys.end(), [](const NudgeKey& row) {
+        return (GetAsyncKeyState(static_cast<int>(row.nKey)) & 0x8000) != 0;
+    });
+}
+
+bool CToolBase::IsArrowKeyQueued() {
+    CCanvas canvas(*this);
+    MSG message;
+    return canvas && PeekMessageA(&message, canvas.View().m_hWnd, WM_KEYDOWN, WM_KEYDOWN, PM_NOREMOVE) &&
+           IsArrowKey(static_cast<UINT>(message.wParam));
+}
+
+// Every key counts, also one whose step is skipped or that moves nothing.
+void CToolBase::CountNudgeKey(UINT nChar) {
+    const int nKey = static_cast<int>(nChar);
+    m_nNudgeRepeat = nKey == m_nNudgeKey ? std::min(m_nNudgeRepeat + 1, FastNudgeCount) : 0;
+    m_nNudgeKey = nKey;
+}
+
+int CToolBase::StepNudge(CCanvas& canvas, UINT nChar) {
+    if (!m_pNudgeBefore) {
+        m_pNudgeBefore = CaptureState<CMoveChangedUndoEvent>(AsObjectTool());
+        if (!m_pNudgeBefore) {
+            return 0;
+        }
+    }
+    CRect rcBefore(0, 0, 0, 0);
+    GetSelectionOutlineRect(&rcBefore);
+    m_fnCopySelection(canvas, m_movedNodes);
+    ShowSelectionMarks(0);
+    ClearSelection();
+    canvas.View().InvalidateRect(&rcBefore, FALSE);
+
+    m_pAnchor = m_movedNodes.GetHead();
+    m_anchorOffset = CSize(0, 0);
+    m_ptPress = canvas.ToClient(CPoint(m_pAnchor->m_tx.nX, m_pAnchor->m_tx.nY));
+    const int nStep = m_nNudgeRepeat == FastNudgeCount ? FastNudgeStep : NudgeStep;
+    const NudgeKey* pKey = FindNudgeKey(nChar);
+    m_ptLast = m_ptPress + CSize(pKey->nX * nStep, pKey->nY * nStep);
+
+    StepMove(MoveStep::Final);
+    CPoint ptPointer;
+    ::GetCursorPos(&ptPointer);
+    canvas.View().ScreenToClient(&ptPointer);
+    OnSetCursor(&ptPointer);
+    SyncAttributePanels();
+    NotifyChangedThenRedrawn(*this);
+    return 1;
+}
+
+// The capture from before the sequence stays for the next one when nothing has changed.
+void CToolBase::FinishNudge() {
+    m_nNudgeKey = 0;
+    m_nNudgeRepeat = 0;
+    if (!m_pNudgeBefore) {
+        return;
+    }
+    const auto pAfter = CaptureState<CMoveChangedUndoEvent>(AsObjectTool());
+    if (!pAfter) {
+        m_pNudgeBefore.reset();
+    } else if (!m_pNudgeBefore->m_fnIsSameState(pAfter.get())) {
+        RecordEvent(m_pNudgeBefore);
+    }
+}
+
+// The answer is 0 when the part that the node covers before and after is as wide as the node was, and
+// otherwise whether that part's height differs from the node's.
+int CToolBase::KeepNodeInView(CImgNode* pNode) {
+    CCanvas canvas(*this);
+    CRect rcOld;
+    if (!canvas || !pNode || !GetNodeRect(pNode, &rcOld)) {
+        return 0;
+    }
+    CRect rcView = canvas.ClientRect();
+    rcView.DeflateRect(ViewEdgeMargin, ViewEdgeMargin);
+    const CSize delta(WayBack(rcOld.left, rcOld.right, rcView.left, rcView.right),
+                      WayBack(rcOld.top, rcOld.bottom, rcView.top, rcView.bottom));
+    m_fnOffsetObject(pNode, canvas.DeltaToDocument(delta));
+
+    CRect rcNew;
+    GetNodeRect(pNode, &rcNew);
+    CRect rcCommon;
+    rcCommon.IntersectRect(&rcOld, &rcNew);
+    return rcCommon.Width() != rcOld.Width() && rcCommon.Height() != rcOld.Height() ? 1 : 0;
+}
