@@ -120,6 +120,8 @@ class CToolCore : public CToolListener {
                            std::int32_t* pError) override;
     int DuplicateNode(CImgNode* pNode, CImgNode** ppCopy, int nAdd, std::int32_t* pError) override;
     int IsPointOnSelection(CPoint* pPoint, std::int32_t* pnAnswer, std::int32_t* pError) override;
+    int CreateNodeShadow(CImgNode* pNode, int nOffsetX, int nOffsetY, COLORREF* pcrColor, int nSoftness,
+                         int nTransparency, std::int32_t* pError) override;
 
     // What undo events and derived tools use besides the interfaces.
 

@@ -65,4 +65,10 @@ int CToolCore::IsPointOnSelection(CPoint* pPoint, std::int32_t* pnAnswer, std::i
     return Answer(pError, ErrorNone);
 }
 
+int CToolCore::CreateNodeShadow(CImgNode* pNode, int nOffsetX, int nOffsetY, COLORREF* pcrColor,
+                                int nSoftness, int nTransparency, std::int32_t* pError) {
+    const int nMade = m_fnCreateShadow(pNode, nOffsetX, nOffsetY, pcrColor, nSoftness, nTransparency);
+    return Answer(pError, nMade ? ErrorNone : ErrorFailed);
+}
+
 int CToolCore::KeepNodeInView(CImgNode*) { return 0; }

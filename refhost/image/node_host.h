@@ -1,0 +1,47 @@
+// What the host itself asks of nodes and does to them: counts, identity, the document's bookkeeping.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "host/img_doc.h"
+#include "host/img_node.h"
+#include "host/img_node_list.h"
+
+/// The road to what nodes and documents keep private. None of it is recorded in the trace.
+struct CNodeBookkeeping {
+    /// All nodes alive in the process.
+    static std::size_t LiveNodes();
+    /// The document's nodes that do not stand in its object list.
+    static std::size_t OffPage(const CImgDoc& doc);
+    /// Every node of the document, also off the page, by ascending id.
+    static std::vector<CImgNode*> NodesById(const CImgDoc& doc);
+    /// The document's node of that id, or null.
+    static CImgNode* NodeById(const CImgDoc& doc, std::uint32_t nId);
+    /// The id of the node that this one was duplicated from, or 0.
+    static std::uint32_t CopyOf(const CImgNode& node);
+    static bool IsOnPage(const CImgNode& node);
+    static CImgDoc* DocumentOf(const CImgNode& node) { return node.m_pDoc; }
+
+    /// The nodes that have a part of the rectangle (document units), front to back, into `nodes`.
+    static void NodesInRect(const CImgDoc& doc, const CRect& rect, std::vector<CImgNode*>& nodes);
+    /// The nodes that hold the document point, front to back, into `nodes`.
+    static void NodesAtPoint(const CImgDoc& doc, const CPoint& point, std::vector<CImgNode*>& nodes);
+
+    /// The node's own rectangle, saturated at the limits of 32 bits.
+    static CRect NodeRect(const CImgNode& node);
+    /// Brings the spatial index up to date after the transform block was written.
+    static void PlaceChanged(CImgNode& node);
+    static std::int64_t StackKey(const CImgNode& node) { return node.m_nStackKey; }
+
+    /// A node was made (1) or destroyed (-1).
+    static void CountNode(int nChange);
+    /// Makes a node that belongs to no document the document's; a null document leaves it alone.
+    static void Register(CImgNode& node, CImgDoc* pDoc);
+    /// Takes the node out of the document's lists, index and set.
+    static void Unregister(CImgNode& node);
+    /// Copies every public field but identity, links and buffers, which get copies of their own. False when
+    /// one fails.
+    static bool CopyFields(const CImgNode& from, CImgNode& to);
+};

@@ -1,0 +1,61 @@
+#include <gtest/gtest.h>
+
+#include "host/services.h"
+#include "refhost_help.h"
+
+using namespace refhost_help;
+
+namespace {
+
+std::vector<std::uint8_t> BytesOf(const CBufferPtr& buffer) {
+    const buffer_host::View view = buffer_host::Look(buffer.Get());
+    return {view.pixels, view.pixels + view.RowBytes() * static_cast<std::size_t>(view.height)};
+}
+
+} // namespace
+
+TEST(MergeBuf, WithoutAnExtraImageTheWorkFadesFromBlack) {
+    const CBufferPtr out(Solid(0xFFFFFF, 1, 1));
+    const CBufferPtr work(Image(1, 1, {0xC86433}));
+
+    EXPECT_EQ(1, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), 0, 50, 0));
+    // 51 * 0.5 is 25.5 and rounds up.
+    EXPECT_EQ((std::vector<std::uint8_t>{26, 50, 100}), BytesOf(out));
+    EXPECT_EQ(1, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), 0, 100, 0));
+    EXPECT_EQ(BytesOf(work), BytesOf(out));
+    EXPECT_EQ(1, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), 0, 0, 0));
+    EXPECT_EQ((std::vector<std::uint8_t>{0, 0, 0}), BytesOf(out));
+}
+
+TEST(MergeBuf, AnExtraImageCoversTheWorkWhereTheMaskSays) {
+    const CBufferPtr out(Solid(0, 3, 1));
+    const CBufferPtr work(Solid(0x000000, 3, 1));
+    const CBufferPtr extra(Solid(0x0000C8, 3, 1));
+    const CBufferPtr mask(Mask(3, 1, {0, 51, 255}));
+
+    EXPECT_EQ(1, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), extra.Get(), 50, mask.Get()));
+
+    // Blue 200 in shares of 0, 0.2 * 0.5 and 0.5.
+    EXPECT_EQ((std::vector<std::uint8_t>{0, 0, 0, 20, 0, 0, 100, 0, 0}), BytesOf(out));
+}
+
+TEST(MergeBuf, BadBuffersSizesPercentagesAndTheFaultLeaveTheOutputAlone) {
+    const CBufferPtr out(Solid(0x123456, 2, 1));
+    const CBufferPtr work(Solid(0xFFFFFF, 2, 1));
+    const CBufferPtr other(Solid(0xFFFFFF, 1, 2));
+    const CBufferPtr mask(Mask(2, 1, {}));
+    const std::vector<std::uint8_t> before = BytesOf(out);
+
+    EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(out.Get(), 0, 0, 50, 0));
+    EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(0, work.Get(), 0, 50, 0));
+    EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(out.Get(), other.Get(), 0, 50, 0));
+    EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), other.Get(), 50, 0));
+    EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), 12345, 50, 0));
+    EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(out.Get(), mask.Get(), 0, 50, 0));
+    EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), 0, 50, work.Get()));
+    EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), 0, 101, 0));
+    EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), 0, -1, 0));
+    const CFaultScope fault("merge");
+    EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), 0, 50, 0));
+    EXPECT_EQ(before, BytesOf(out));
+}
