@@ -1,0 +1,13 @@
+#include <exception>
+#include <iostream>
+
+#include "command_line.h"
+
+int main(int argc, char** argv) {
+    try {
+        return RunProgram(argc, argv, std::cin, std::cout, std::cerr);
+    } catch (const std::exception& error) {
+        std::cerr << "pradix: " << error.what() << '\n';
+        return 2;
+    }
+}

@@ -1,0 +1,105 @@
+#include "names.h"
+
+#include "desk/desk.h"
+#include "image/node_host.h"
+
+namespace {
+
+constexpr char ShadowSuffix[] = ".shadow";
+constexpr char FrameSuffix[] = ".frame";
+
+bool EndsWith(const std::string& text, const std::string& suffix) {
+    return text.size() > suffix.size() &&
+           text.compare(text.size() - suffix.size(), suffix.size(), suffix) == 0;
+}
+
+std::string WithoutSuffix(const std::string& text, const std::string& suffix) {
+    return text.substr(0, text.size() - suffix.size());
+}
+
+} // namespace
+
+void CNames::Clear() {
+    m_idByName.clear();
+    m_nameById.clear();
+    m_rootById.clear();
+    m_copies.clear();
+    m_nTexts = 0;
+}
+
+void CNames::Give(const std::string& name, const CImgNode* pNode) {
+    m_idByName[name] = pNode->m_nId;
+    m_nameById[pNode->m_nId] = name;
+}
+
+void CNames::NameNewNodes() {
+    const CVorDoc* pDoc = m_desk.Document();
+    if (!pDoc) {
+        return;
+    }
+    for (const CImgNode* pNode : CNodeBookkeeping::NodesById(*pDoc)) {
+        if (CNodeBookkeeping::IsOnPage(*pNode)) {
+            Of(pNode);
+        }
+    }
+}
+
+CImgNode* CNames::Find(const std::string& name) {
+    NameNewNodes();
+    const CVorDoc* pDoc = m_desk.Document();
+    for (const char* pszSuffix : {ShadowSuffix, FrameSuffix}) {
+        const CImgNode* pOwner = EndsWith(name, pszSuffix) ? Find(WithoutSuffix(name, pszSuffix)) : nullptr;
+        if (pOwner) {
+            CImgNode* pCompanion = pszSuffix == ShadowSuffix ? pOwner->m_pShadowNode : pOwner->m_pFrameNode;
+            if (pCompanion) {
+                return pCompanion;
+            }
+        }
+    }
+    const auto found = m_idByName.find(name);
+    return found == m_idByName.end() || !pDoc ? nullptr : CNodeBookkeeping::NodeById(*pDoc, found->second);
+}
+
+std::string CNames::Of(const CImgNode* pNode) {
+    if (!pNode) {
+        return {};
+    }
+    if (pNode->m_pOwner) {
+        Give(CompanionName(pNode), pNode);
+    } else if (!m_nameById.count(pNode->m_nId)) {
+        NameNewNode(pNode);
+    }
+    return m_nameById[pNode->m_nId];
+}
+
+std::string CNames::OfId(std::uint32_t nId) {
+    if (nId == 0) {
+        return {};
+    }
+    const CVorDoc* pDoc = m_desk.Document();
+    if (const CImgNode* pNode = pDoc ? CNodeBookkeeping::NodeById(*pDoc, nId) : nullptr) {
+        return Of(pNode);
+    }
+    const auto found = m_nameById.find(nId);
+    return found == m_nameById.end() ? "node#" + std::to_string(nId) : found->second;
+}
+
+std::string CNames::CompanionName(const CImgNode* pNode) {
+    const bool bShadow = pNode->m_pOwner->m_pShadowNode == pNode || pNode->m_nType == node_type::Shadow;
+    return Of(pNode->m_pOwner) + (bShadow ? ShadowSuffix : FrameSuffix);
+}
+
+// Copies of copies count on from the first one, so that every copy of A is A#n.
+void CNames::NameNewNode(const CImgNode* pNode) {
+    if (const std::uint32_t nSource = CNodeBookkeeping::CopyOf(*pNode)) {
+        const std::string source = OfId(nSource);
+        const auto found = m_rootById.find(nSource);
+        const std::string root = found == m_rootById.end() ? source : found->second;
+        m_rootById[pNode->m_nId] = root;
+        Give(root + "#" + std::to_string(++m_copies.try_emplace(root, 1).first->second), pNode);
+    } else if (pNode->m_nType == node_type::Text) {
+        Give("text#" + std::to_string(++m_nTexts), pNode);
+    } else {
+        Give("node#" + std::to_string(pNode->m_nId), pNode);
+    }
+}

@@ -1,0 +1,43 @@
+// The names under which a scenario knows the page's nodes.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+class CDesk;
+class CImgNode;
+
+/// Labels for nodes. A companion is called after its object ("A.shadow", "A.frame"), a copy after what it was
+/// copied from
+/// ("A#2"), new text "text#1" and so on. A node keeps its name when it is gone, so that a record can still
+/// tell it.
+class CNames {
+  public:
+    explicit CNames(const CDesk& desk) : m_desk(desk) {}
+
+    /// Forgets every name; numbers start again.
+    void Clear();
+    /// Labels a node; a former holder of the name loses it.
+    void Give(const std::string& name, const CImgNode* pNode);
+    /// Names the nodes of the page that have come since the last call, oldest first. A node off the page is
+    /// named when somebody asks for its name.
+    void NameNewNodes();
+    /// The live node of that name, or null.
+    CImgNode* Find(const std::string& name);
+    /// The node's name; empty for a null node.
+    std::string Of(const CImgNode* pNode);
+    /// The name of a node that may be gone; empty for none.
+    std::string OfId(std::uint32_t nId);
+
+  private:
+    void NameNewNode(const CImgNode* pNode);
+    std::string CompanionName(const CImgNode* pNode);
+
+    const CDesk& m_desk;
+    std::map<std::string, std::uint32_t> m_idByName;
+    std::map<std::uint32_t, std::string> m_nameById;
+    std::map<std::uint32_t, std::string> m_rootById; ///< of copies: what the first of the family is called
+    std::map<std::string, int> m_copies;             ///< how many bear a root name, the first included
+    int m_nTexts = 0;
+};

@@ -1,0 +1,13 @@
+#include "scenario/commands.h"
+
+const CommandRow* FindCommand(const std::string& name) {
+    for (const auto& table : {HostCommands(), StageCommands(), PanelCommands(), InputCommands(),
+                              ToolCommands(), LookCommands(), LaterCommands()}) {
+        for (const CommandRow& row : table) {
+            if (name == row.pszName) {
+                return &row;
+            }
+        }
+    }
+    return nullptr;
+}

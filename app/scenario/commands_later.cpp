@@ -1,0 +1,34 @@
+#include <array>
+
+#include "scenario/commands.h"
+
+namespace {
+
+constexpr std::array<CommandRow, 16> Rows = {{
+    {"text",
+     "text NAME \"TEXT\" X Y [font \"F\"] [px N] [bold] [italic] [underline] [align 0|1|2] [color #RRGGBB] "
+     "[effect outline|glow|emboss] [off-page]",
+     nullptr},
+    {"component", "component FILE (NAME X Y W H #RRGGBB|none [mask ellipse])...", nullptr},
+    {"display", "display B C T", nullptr},
+    {"node-display", "node-display NAME|none B C T", nullptr},
+    {"shadow",
+     "shadow count | apply DX DY #RRGGBB SOFT TRANSP | offset MASK X Y | color #RRGGBB | soft N | "
+     "transparency N | remove",
+     nullptr},
+    {"shadow-mode", "shadow-mode N", nullptr},
+    {"frame", "frame apply FILE | apply-to FILE NAME... | remove | query", nullptr},
+    {"attr", "attr font \"F\" | size PT | align N | style BITS | color #RRGGBB", nullptr},
+    {"edit", "edit NAME X Y", nullptr},
+    {"editor", "editor new X Y \"TEXT\" [hidden] | editor OPERATION ARG... | editor destroy", nullptr},
+    {"convert", "convert pt2px|px2pt|px2twip|twip2px N | convert dpi", nullptr},
+    {"clipboard", "clipboard \"TEXT\"", nullptr},
+    {"drop", "drop \"TEXT\" X Y [ctrl] [source N] [format N]", nullptr},
+    {"hover", "hover \"TEXT\" X Y [ctrl] [source N] [format N]", nullptr},
+    {"leave", "leave", nullptr},
+    {"dragtext", "dragtext X1 Y1 X2 Y2 [ctrl]", nullptr},
+}};
+
+} // namespace
+
+std::span<const CommandRow> LaterCommands() { return Rows; }

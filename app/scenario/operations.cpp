@@ -1,0 +1,305 @@
+#include "scenario/operations.h"
+
+#include <array>
+#include <span>
+
+#include "desk/tool_operations.h"
+#include "scenario/error.h"
+
+namespace {
+
+using MainHandler = void (*)(CRunner&, CArguments&, CToolOperations&);
+using OpsHandler = void (*)(CRunner&, CArguments&, IToolObjectOps&);
+
+/// One operation by number and name; no handler for one whose subject does not exist yet.
+template <class Handler>
+struct OperationRow {
+    int nNumber;
+    const char* pszName;
+    Handler pfnRun;
+};
+
+void SayNothing(CRunner& run) { run.Say("none"); }
+
+void SayRect(CRunner& run, long long nResult, const RECT& rect) {
+    run.Say(nResult, {{"rect", RectText(rect)}});
+}
+
+/// The shapes of operations: no argument, a number, a node, a node or none with a rectangle coming out, and
+/// so on.
+template <int (IToolObjectOps::*pfnOp)()>
+void Plain(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    args.End();
+    run.Say((ops.*pfnOp)());
+}
+
+template <int (IToolObjectOps::*pfnOp)(int)>
+void OneNumber(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    const int nValue = args.Int("N");
+    args.End();
+    run.Say((ops.*pfnOp)(nValue));
+}
+
+template <int (IToolObjectOps::*pfnOp)(CImgNode*)>
+void OneNode(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    CImgNode* pNode = run.NodeOrNone(args, "NODE");
+    args.End();
+    run.Say((ops.*pfnOp)(pNode));
+}
+
+template <int (IToolObjectOps::*pfnOp)(RECT*)>
+void RectOut(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    args.End();
+    RECT rect{};
+    const int nResult = (ops.*pfnOp)(&rect);
+    SayRect(run, nResult, rect);
+}
+
+template <int (IToolObjectOps::*pfnOp)(const RECT*)>
+void RectIn(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    if (args.TakeWord("none")) {
+        args.End();
+        run.Say((ops.*pfnOp)(nullptr));
+        return;
+    }
+    const RECT rect = args.Rect("RECT");
+    args.End();
+    run.Say((ops.*pfnOp)(&rect));
+}
+
+template <int (IToolObjectOps::*pfnOp)(CNodeRefList&)>
+void List(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    CNodeRefList nodes;
+    run.Nodes(args, "LIST", nodes);
+    args.End();
+    run.Say((ops.*pfnOp)(nodes));
+}
+
+/// Operations 35 and 36 answer the rectangle itself, so the result is its presence.
+template <RECT* (IToolObjectOps::*pfnOp)(RECT*, CImgNode*)>
+void RectOfNode(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    CImgNode* pNode = run.NodeOrNone(args, "NODE");
+    args.End();
+    RECT rect{};
+    const RECT* pAnswer = (ops.*pfnOp)(&rect, pNode);
+    SayRect(run, pAnswer == &rect ? 1 : 0, rect);
+}
+
+void SetSelection(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    CNodeRefList nodes;
+    run.Nodes(args, "LIST", nodes);
+    const int nToggle = args.Int("N");
+    args.End();
+    run.Say(ops.SetSelection(nodes, nToggle));
+}
+
+void GetNodesRect(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    CNodeRefList nodes;
+    run.Nodes(args, "LIST", nodes);
+    args.End();
+    RECT rect{};
+    const int nResult = ops.GetNodesRect(nodes, &rect);
+    SayRect(run, nResult, rect);
+}
+
+void GetNodeMarkArea(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    CImgNode* pNode = run.NodeOrNone(args, "NODE");
+    args.End();
+    RECT rect{};
+    const int nResult = ops.GetNodeMarkArea(pNode, &rect);
+    SayRect(run, nResult, rect);
+}
+
+void ShowNodeFrame(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    CImgNode* pNode = run.NodeOrNone(args, "NODE");
+    const int nShow = args.Int("N");
+    args.End();
+    run.Say(ops.ShowNodeFrame(pNode, nShow));
+}
+
+constexpr std::array<OperationRow<OpsHandler>, 38> Ops = {{
+    {1, "OnToolActivate", nullptr},
+    {2, "ClearSelection", Plain<&IToolObjectOps::ClearSelection>},
+    {3, "DeselectAll", OneNumber<&IToolObjectOps::DeselectAll>},
+    {4, "AddToSelection", List<&IToolObjectOps::AddToSelection>},
+    {5, "SetSelection", SetSelection},
+    {6, "ShowSelectionMarks", OneNumber<&IToolObjectOps::ShowSelectionMarks>},
+    {7, "RefreshNodeShadow", nullptr},
+    {8, "FlushSelectionArea", Plain<&IToolObjectOps::FlushSelectionArea>},
+    {9, "RedrawSelectionArea", Plain<&IToolObjectOps::RedrawSelectionArea>},
+    {10, "GetSelectionRect", RectOut<&IToolObjectOps::GetSelectionRect>},
+    {11, "GetSelectionOutlineRect", RectOut<&IToolObjectOps::GetSelectionOutlineRect>},
+    {12, "FlushViewRect", RectIn<&IToolObjectOps::FlushViewRect>},
+    {13, "RedrawRect", RectIn<&IToolObjectOps::RedrawRect>},
+    {14, "KeepNodeInView", OneNode<&IToolObjectOps::KeepNodeInView>},
+    {15, "GetNodesRect", GetNodesRect},
+    {16, "GetNodeMarkArea", GetNodeMarkArea},
+    {17, "ClassifySelection", Plain<&IToolObjectOps::ClassifySelection>},
+    {18, "CreateTextNode", nullptr},
+    {19, "RecolorTextNode", nullptr},
+    {20, "ReplaceTextNode", nullptr},
+    {21, "RebuildTextNodeInPlace", nullptr},
+    {22, "SyncAttributePanels", Plain<&IToolObjectOps::SyncAttributePanels>},
+    {23, "SetSharedValue", OneNumber<&IToolObjectOps::SetSharedValue>},
+    {24, "CopyNodeLook", nullptr},
+    {25, "HookNode", OneNode<&IToolObjectOps::HookNode>},
+    {26, "RecordSelectionUndo", Plain<&IToolObjectOps::RecordSelectionUndo>},
+    {27, "RecordAttributeUndoForSelection", nullptr},
+    {28, "RecordAttributeUndo", nullptr},
+    {29, "RecordAddObjectUndo", nullptr},
+    {30, "NotifyObjectsChanged", Plain<&IToolObjectOps::NotifyObjectsChanged>},
+    {31, "NotifyObjectsRedrawn", Plain<&IToolObjectOps::NotifyObjectsRedrawn>},
+    {32, "ClassifyNodes", List<&IToolObjectOps::ClassifyNodes>},
+    {33, "SyncToolPanel", Plain<&IToolObjectOps::SyncToolPanel>},
+    {34, "ShowNodeFrame", ShowNodeFrame},
+    {35, "GetNodeRectOf", RectOfNode<&IToolObjectOps::GetNodeRectOf>},
+    {36, "GetNodeMarkAreaOf", RectOfNode<&IToolObjectOps::GetNodeMarkAreaOf>},
+    {37, "CanRunCommand", Plain<&IToolObjectOps::CanRunCommand>},
+    {38, "MakePlaceholderFrame", nullptr},
+}};
+
+template <int (CToolOperations::*pfnOp)()>
+void MainPlain(CRunner& run, CArguments& args, CToolOperations& tool) {
+    args.End();
+    run.Say((tool.*pfnOp)());
+}
+
+template <int (CToolOperations::*pfnOp)(CImgNode*, RECT*)>
+void MainRectOfNode(CRunner& run, CArguments& args, CToolOperations& tool) {
+    CImgNode* pNode = run.NodeOrNone(args, "NODE");
+    args.End();
+    RECT rect{};
+    const int nResult = (tool.*pfnOp)(pNode, &rect);
+    SayRect(run, nResult, rect);
+}
+
+template <int (CToolOperations::*pfnOp)(CImgNode*)>
+void MainNode(CRunner& run, CArguments& args, CToolOperations& tool) {
+    CImgNode* pNode = run.NodeOrNone(args, "NODE");
+    args.End();
+    run.Say((tool.*pfnOp)(pNode));
+}
+
+template <int (CToolOperations::*pfnOp)(CPoint*, CImgNode*)>
+void MainHit(CRunner& run, CArguments& args, CToolOperations& tool) {
+    CPoint point = args.Point("X Y");
+    CImgNode* pNode = run.NodeOrNone(args, "NODE");
+    args.End();
+    run.Say((tool.*pfnOp)(&point, pNode));
+}
+
+/// Draws straight onto the view; the next paint of the place takes it away.
+template <int (CToolOperations::*pfnOp)(CDC*, CPoint*, CImgNode*)>
+void MainDraw(CRunner& run, CArguments& args, CToolOperations& tool) {
+    CPoint ptOrigin = args.Point("X Y");
+    CImgNode* pNode = run.NodeOrNone(args, "NODE");
+    args.End();
+    CClientDC dc(run.Stage().Desk().View());
+    run.Say((tool.*pfnOp)(&dc, &ptOrigin, pNode));
+}
+
+void GetToolRect(CRunner& run, CArguments& args, CToolOperations& tool) {
+    args.End();
+    RECT rect{};
+    const int nResult = tool.GetToolRect(&rect);
+    SayRect(run, nResult, rect);
+}
+
+void OnSetCursor(CRunner& run, CArguments& args, CToolOperations& tool) {
+    CPoint point = args.Point("X Y");
+    args.End();
+    tool.OnSetCursor(&point);
+    SayNothing(run);
+}
+
+void Copy(CRunner& run, CArguments& args, CToolOperations& tool) {
+    const CPoint point = args.Point("X Y");
+    args.End();
+    run.Say(tool.m_fnCopy(point));
+}
+
+void Paste(CRunner& run, CArguments& args, CToolOperations& tool) {
+    const CPoint point = args.Point("X Y");
+    const int nFlag = args.Int("N");
+    args.End();
+    run.Say(tool.m_fnPaste(point, nFlag));
+}
+
+constexpr std::array<OperationRow<MainHandler>, 46> Main = {{
+    {6, "GetToolRect", GetToolRect},
+    {7, "OnObjectHook", nullptr},
+    {8, "host-reset", MainPlain<&CToolOperations::ResetHost>},
+    {9, "OnSetCursor", OnSetCursor},
+    {10, "IsCtrlDown", MainPlain<&CToolOperations::IsCtrlDown>},
+    {11, "GetNodeMarkRect", MainRectOfNode<&CToolOperations::GetNodeMarkRect>},
+    {12, "GetNodeOutlineMarkRect", MainRectOfNode<&CToolOperations::GetNodeOutlineMarkRect>},
+    {13, "GetNodeRect", MainRectOfNode<&CToolOperations::GetNodeRect>},
+    {14, "GetNodeOutlineRect", MainRectOfNode<&CToolOperations::GetNodeOutlineRect>},
+    {15, "DrawSelectionMark", MainDraw<&CToolOperations::DrawSelectionMark>},
+    {16, "Reserved16", nullptr},
+    {17, "DrawMarkRect", MainDraw<&CToolOperations::DrawMarkRect>},
+    {18, "Reserved18", nullptr},
+    {19, "InvalidateSelectionMark", MainNode<&CToolOperations::InvalidateSelectionMark>},
+    {20, "InvalidateMarkRect", MainNode<&CToolOperations::InvalidateMarkRect>},
+    {21, "HitTestSelected", MainHit<&CToolOperations::HitTestSelected>},
+    {22, "PtInNodeOutline", MainHit<&CToolOperations::PtInNodeOutline>},
+    {23, "m_fnBringForward", nullptr},
+    {24, "m_fnSendBackward", nullptr},
+    {25, "m_fnBringToFront", nullptr},
+    {26, "m_fnSendToBack", nullptr},
+    {27, "m_fnCopy", Copy},
+    {28, "m_fnPaste", Paste},
+    {29, "m_fnDelete", nullptr},
+    {30, "Empty30", nullptr},
+    {31, "Empty31", nullptr},
+    {32, "m_fnRemoveFrame", nullptr},
+    {33, "m_fnRemoveShadow", nullptr},
+    {34, "m_fnEditTextAt", nullptr},
+    {35, "m_fnRemoveTextEffect", nullptr},
+    {36, "m_fnAlignLeft", nullptr},
+    {37, "m_fnAlignTop", nullptr},
+    {38, "m_fnAlignRight", nullptr},
+    {39, "m_fnAlignBottom", nullptr},
+    {40, "m_fnAlignMiddle", nullptr},
+    {41, "m_fnAlignCenter", nullptr},
+    {42, "m_fnAlignCenters", nullptr},
+    {43, "m_fnDistributeVertically", nullptr},
+    {44, "m_fnDistributeHorizontally", nullptr},
+    {45, "m_fnSameWidth", nullptr},
+    {46, "m_fnSameHeight", nullptr},
+    {47, "m_fnSameSize", nullptr},
+    {48, "Reserved48", nullptr},
+    {49, "Reserved49", nullptr},
+    {50, "OnNodeResized", nullptr},
+    {52, "GetPanelKind", nullptr},
+}};
+
+template <class Handler>
+const OperationRow<Handler>* FindRow(std::span<const OperationRow<Handler>> rows, const std::string& prefix,
+                                     const std::string& name) {
+    for (const OperationRow<Handler>& row : rows) {
+        if (name == row.pszName || name == prefix + std::to_string(row.nNumber)) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void RunOperation(CRunner& run, CArguments& args) {
+    const std::string name = args.Name("the operation");
+    const auto* pOps = FindRow<OpsHandler>(Ops, "ops:", name);
+    const auto* pMain = FindRow<MainHandler>(Main, "main:", name);
+    if (!pOps && !pMain) {
+        args.Fail("no operation is called " + name);
+    }
+    if (pOps ? !pOps->pfnRun : !pMain->pfnRun) {
+        throw CNotBuilt("op " + name);
+    }
+    if (pOps) {
+        pOps->pfnRun(run, args, run.ToolInterface<IToolObjectOps>());
+    } else {
+        pMain->pfnRun(run, args, *OperationsOf(run.RequireTool()));
+    }
+}

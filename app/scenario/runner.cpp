@@ -1,0 +1,126 @@
+#include "scenario/runner.h"
+
+#include <istream>
+#include <ostream>
+
+#include "desk/guid_text.h"
+#include "scenario/commands.h"
+#include "scenario/error.h"
+
+int CRunner::Run(std::istream& in, const std::string& file) {
+    std::string line;
+    for (int nLine = 1; std::getline(in, line); nLine++) {
+        const auto where = [&] { return file + ":" + std::to_string(nLine) + ": "; };
+        try {
+            RunLine(line);
+        } catch (const CExpectationFailed& failure) {
+            m_err << where() << failure.what() << '\n';
+            return exit_status::Failed;
+        } catch (const std::exception& error) {
+            m_err << where() << error.what() << '\n';
+            return exit_status::Unusable;
+        }
+    }
+    return exit_status::Done;
+}
+
+void CRunner::RunLine(const std::string& line) {
+    const LexedLine lexed = Lex(line);
+    if (lexed.tokens.empty()) {
+        return;
+    }
+    const std::string& name = lexed.tokens.front().text;
+    const CommandRow* pRow = lexed.tokens.front().kind == TokenKind::Word ? FindCommand(name) : nullptr;
+    if (!pRow) {
+        throw CScenarioError("unknown command: " + name);
+    }
+    if (!pRow->pfnRun) {
+        throw CNotBuilt(name);
+    }
+    m_command = lexed.command;
+    if (!pRow->bBeforeModule) {
+        LoadModuleFor(name);
+    }
+    CArguments args(lexed.tokens, pRow->pszUsage);
+    pRow->pfnRun(*this, args);
+    m_stage.Names().NameNewNodes();
+}
+
+// A module that was detached or refused to load is not tried again behind the person's back.
+void CRunner::LoadModuleFor(const std::string& command) {
+    const bool bFirst = !m_bLoadTried;
+    m_bLoadTried = true;
+    if (bFirst && command != "module" && !m_stage.LoadModule().loaded) {
+        throw CScenarioError("the module cannot be loaded");
+    }
+}
+
+void CRunner::Say(const std::string& result, std::vector<std::pair<std::string, std::string>> pairs) {
+    m_last = {result, std::move(pairs)};
+    m_out << m_command << " -> " << result;
+    for (const auto& [name, value] : m_last.pairs) {
+        m_out << ' ' << name << (name == "error" ? ' ' : '=') << value;
+    }
+    m_out << '\n';
+}
+
+void CRunner::SayWithError(long long nResult, int nError) {
+    if (nError != 0) {
+        Say(nResult, {{"error", std::to_string(nError)}});
+    } else {
+        Say(nResult);
+    }
+}
+
+void CRunner::Print(const std::string& line) { m_out << line << '\n'; }
+
+CImgNode* CRunner::Node(CArguments& args, const char* pszWhat) {
+    const std::string name = args.Name(pszWhat);
+    CImgNode* pNode = m_stage.Node(name);
+    if (!pNode) {
+        throw CScenarioError("no node is called " + name);
+    }
+    return pNode;
+}
+
+CImgNode* CRunner::NodeOrNone(CArguments& args, const char* pszWhat) {
+    return args.TakeWord("none") ? nullptr : Node(args, pszWhat);
+}
+
+void CRunner::Nodes(CArguments& args, const char* pszWhat, CNodeRefList& nodes) {
+    if (args.TakeWord("none")) {
+        return;
+    }
+    for (const std::string& name : args.Names(pszWhat)) {
+        CImgNode* pNode = m_stage.Node(name);
+        if (!pNode) {
+            throw CScenarioError("no node is called " + name);
+        }
+        nodes.AddTail(pNode);
+    }
+}
+
+CListenerObject* CRunner::RequireTool() {
+    if (!m_stage.CurrentTool()) {
+        throw CScenarioError("no tool is current");
+    }
+    return m_stage.CurrentTool();
+}
+
+CListenerObject* CRunner::ToolNamed(CArguments& args) {
+    const std::string name = args.Name("CLASS");
+    CListenerObject* pTool = m_stage.Tool(name);
+    if (!pTool) {
+        throw CScenarioError("no tool of that class: " + name);
+    }
+    return pTool;
+}
+
+void CRunner::LacksInterface(const GUID& iid) {
+    throw CScenarioError("the current tool lacks the interface " + GuidText(iid));
+}
+
+std::string RectText(const RECT& rect) {
+    return "[" + std::to_string(rect.left) + "," + std::to_string(rect.top) + "," +
+           std::to_string(rect.right) + "," + std::to_string(rect.bottom) + "]";
+}

@@ -1,0 +1,187 @@
+// Everything that a scenario or a test needs of the headless host, in a user's words.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "desk/desk.h"
+#include "host/tool_interfaces.h"
+#include "host/undo.h"
+#include "names.h"
+#include "platform/clock.h"
+#include "trace/trace.h"
+
+/// Whether Ctrl is held, in both key states, while a command's messages are dispatched.
+enum class Ctrl { Up, Down };
+enum class Redraw { No, Yes };
+enum class KeyStates { Both, Async, Sync };
+
+/// How a picture stands on the page beyond its place.
+struct PictureOptions {
+    bool ellipseMask = false;
+    bool keepProportions = false;
+    int maskScale = 100; ///< percent
+    bool hasOffset = false;
+    CPoint offset; ///< document units, added to the position
+};
+
+/// The outcome of loading the module: nothing is loaded when the file cannot be opened or refuses to attach.
+struct ModuleState {
+    bool loaded = false;
+    bool resource = false; ///< whether the resource module stands beside it
+    int tools = 0;         ///< how many tools the host has received
+};
+
+/// The headless host: one desk, the module's tools, a clock that stands still, and names for nodes. One lives
+/// at a time; it owns all that the module and the host leave behind and frees it in the host's order. Its
+/// operations act or answer; what cannot be done answers false, 0 or null. Points are client pixels of the
+/// view, rectangles of nodes document units.
+class CStage {
+  public:
+    /// An empty page of 720 by 480 at zoom 1 and no current tool. The module is not loaded yet.
+    CStage();
+    ~CStage();
+    CStage(const CStage&) = delete;
+    CStage& operator=(const CStage&) = delete;
+
+    /// Loads the module that stands beside the program and takes its tools. Loaded already, it answers the
+    /// state again.
+    ModuleState LoadModule();
+    /// Leaves the tools and unloads the module: 1, or 0 when none is loaded.
+    int DetachModule();
+    bool IsModuleLoaded() const { return m_hModule != nullptr; }
+
+    /// A new page of document units; the view gets the page's size in client pixels, cut to whole ones.
+    void NewPage(int nWidth, int nHeight, double dZoom = 1.0);
+    void SetScroll(CPoint ptDoc);
+    void SetViewSize(int nWidth, int nHeight);
+    void SetBaseColor(COLORREF crBase);
+    /// Null takes the base image away. False and a reason when the file is no picture.
+    bool SetBaseFile(const char* pszFile, std::string& error);
+
+    /// At the front of the page; nothing is selected, recorded or notified. Null when there is no memory for
+    /// it.
+    CImgNode* AddPicture(const std::string& name, COLORREF crFill, int nX, int nY, int nWidth, int nHeight,
+                         const PictureOptions& options = {});
+    /// The same of a PNG or JPEG file, scaled to the rectangle. Null and a reason when the file is no
+    /// picture.
+    CImgNode* AddPictureFile(const std::string& name, const char* pszFile, int nX, int nY, int nWidth,
+                             int nHeight, const PictureOptions& options, std::string& error);
+    /// An object in placeholder mode with the empty frame of its own size.
+    CImgNode* AddPlaceholder(const std::string& name, int nX, int nY, int nWidth, int nHeight);
+    /// Deletes a node that is off the page; false for one that is on it.
+    bool FreeNode(CImgNode* pNode);
+    /// The node that the tools' hit tests skip; null for none.
+    void Exclude(CImgNode* pNode);
+
+    /// The host's switch to the tool of that class; an empty name leaves no tool current. False for a class
+    /// that is not there.
+    bool UseTool(const std::string& className, Redraw redraw = Redraw::Yes);
+    /// A received tool by its class name, or null.
+    CListenerObject* Tool(const std::string& className) const { return m_desk.FindTool(className); }
+    CListenerObject* CurrentTool() const { return m_desk.CurrentTool(); }
+    /// An interface of the current tool, or null.
+    template <class Interface>
+    Interface* ToolInterface() const {
+        return CDesk::Query<Interface>(m_desk.CurrentTool());
+    }
+
+    void Press(CPoint point, Ctrl ctrl = Ctrl::Up);
+    void Move(CPoint point, Ctrl ctrl = Ctrl::Up);
+    void Release(CPoint point, Ctrl ctrl = Ctrl::Up);
+    void RightPress(CPoint point);
+    /// One WM_LBUTTONDBLCLK.
+    void SecondPress(CPoint point, Ctrl ctrl = Ctrl::Up);
+    void Click(CPoint point, Ctrl ctrl = Ctrl::Up);
+    void DblClick(CPoint point, Ctrl ctrl = Ctrl::Up);
+    /// Press, `nSteps` moves that end at `ptTo`, release.
+    void Drag(CPoint ptFrom, CPoint ptTo, Ctrl ctrl = Ctrl::Up, int nSteps = 4);
+    void SetPointer(CPoint point);
+
+    /// To the window with the focus; a key-down is translated. Keys are virtual-key codes.
+    void KeyDown(int nKey, Ctrl ctrl = Ctrl::Up);
+    void KeyUp(int nKey, Ctrl ctrl = Ctrl::Up);
+    /// `nTimes` key-downs, then the key-up.
+    void Key(int nKey, int nTimes = 1, Ctrl ctrl = Ctrl::Up);
+    /// One WM_CHAR to the window with the focus.
+    void Char(unsigned nCode);
+    void Type(const std::string& bytes);
+    void Hold(int nKey, KeyStates states = KeyStates::Both);
+    void LetGo(int nKey);
+    void AddAccelerator(int nKey, Ctrl ctrl);
+    void FocusView();
+    void FocusNone();
+
+    void QueuePress(CPoint point);
+    void QueueMove(CPoint point);
+    void QueueRelease(CPoint point);
+    void QueueKeyDown(int nKey);
+    /// Dispatches the queued messages, all of them or the first `nCount`, then paints.
+    void Pump(int nCount = -1);
+    /// Lets the clock run, fires the timers in order, paints.
+    void Wait(unsigned nMilliseconds);
+
+    /// Selects through the current tool, without undo or panels. False without a current tool.
+    bool Select(const std::vector<std::string>& names);
+    BOOL Undo();
+    BOOL Redo();
+
+    /// Adds one more global receiver of kind 38 or 45.
+    void BusAdd(int nKind, bool bSearches) { m_desk.AddReceiver(nKind, bSearches); }
+
+    CDesk& Desk() { return m_desk; }
+    const CDesk& Desk() const { return m_desk; }
+    CNames& Names() { return m_names; }
+    /// A live node by its name, or null.
+    CImgNode* Node(const std::string& name) { return m_names.Find(name); }
+    /// The node's bounds without companions; empty for a name that is nobody's.
+    CRect Rect(const std::string& name);
+    /// The page's nodes, front to back.
+    std::vector<std::string> PageNames();
+    std::vector<std::string> Selection();
+    /// Class names of the recorded events, newest first.
+    std::vector<std::string> UndoClasses() const;
+    std::vector<std::string> RedoClasses() const;
+    /// What the module called on the host since the last taking. `Calls` are the rows of the bus objects, and
+    /// have their own last taking.
+    std::vector<trace::Row> Trace();
+    std::vector<trace::Row> Calls();
+    /// The same rows, left where they are.
+    const std::vector<trace::Row>& PeekTrace();
+    const std::vector<trace::Row>& PeekCalls();
+    /// The view's pixel as a person sees it; CLR_INVALID outside.
+    COLORREF Pixel(int nX, int nY);
+    /// Brings the window up to date; after it the surface holds what a person sees.
+    void Paint();
+    /// How often a wait cursor was shown.
+    int WaitCursors();
+
+  private:
+    struct Accelerator {
+        int nKey;
+        Ctrl ctrl;
+    };
+
+    CImgNode* PlaceNode(const std::string& name, CImgNode* pNode);
+    HWND TargetOf(CPoint& point) const;
+    void SendMouse(UINT nMessage, CPoint point);
+    void PostMouse(UINT nMessage, CPoint point);
+    void SendKeyDown(int nKey);
+    void SendKeyUp(int nKey);
+    bool FireAccelerator(int nKey);
+    void SetButton(bool bDown);
+    void GatherTrace();
+
+    CWinApp m_app; ///< the wait cursor needs one
+    platform::CVirtualClock m_clock;
+    HMODULE m_hModule = nullptr;
+    CDesk m_desk;
+    CNames m_names;
+    std::vector<Accelerator> m_accelerators;
+    std::vector<trace::Row> m_traceRows;
+    std::vector<trace::Row> m_callRows;
+    int m_nWaits = 0;
+    bool m_bLeftButton = false;
+};

@@ -1,0 +1,30 @@
+// The tools that the host knows by class: their names, and the property page that each pairs with.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include <windows.h>
+
+class CListenerObject;
+
+struct ToolRow {
+    const char* pszName;
+    GUID classId;
+    bool bEditCategory; ///< the kind below is given under the edit category
+    int nKind;
+    int nPanelKind; ///< the page kind the tool answers; 0 for none, PanelAsShown for the page that is showing
+    int nPropertyKind; ///< the page that is the class's property object; 0 for none
+};
+
+/// The tool takes whichever page is showing.
+inline constexpr int PanelAsShown = -1;
+inline constexpr std::size_t ToolCount = 11;
+
+/// The eleven tools in the order in which the module makes them.
+const std::array<ToolRow, ToolCount>& ToolCatalog();
+/// The row of a class name or class GUID, or null.
+const ToolRow* FindToolRow(const std::string& name);
+const ToolRow* FindToolRow(const GUID& classId);
+/// The row of a tool, by the class GUID that it answers; null for a listener that is no tool.
+const ToolRow* FindToolRow(CListenerObject* pTool);

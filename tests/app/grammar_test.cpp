@@ -1,0 +1,185 @@
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+#include "scenario/commands.h"
+#include "scenario_lines.h"
+
+namespace {
+
+constexpr const char* NotBuilt[] = {
+    "codepage 932",
+    "default-font Arial",
+    "text T \"hello\" 10 20",
+    "component f.cmp A 0 0 10 10 #FFFFFF",
+    "display 10 0 0",
+    "node-display A 1 2 3",
+    "shadow count",
+    "shadow-mode 1",
+    "frame query",
+    "attr size 12",
+    "edit A 10 10",
+    "editor destroy",
+    "convert dpi",
+    "clipboard \"x\"",
+    "drop \"x\" 1 1",
+    "hover \"x\" 1 1",
+    "leave",
+    "dragtext 1 1 2 2",
+    "rclick 5 5 103",
+    "rclick 5 5 dismiss-at 7 7",
+    "focus editor",
+    "export mask m.png",
+    "service blend 50",
+    "service shadow A 1 1 #000000 0 0",
+    "service duplicate-scaled A 2",
+    "mark add-object",
+    "mark attributes 5",
+    "op CreateTextNode",
+    "op ops:38",
+    "op m_fnDelete",
+    "op main:36",
+    "op GetPanelKind",
+};
+
+class NotBuiltLine : public testing::TestWithParam<const char*> {};
+
+TEST_P(NotBuiltLine, EndsWithStatusTwoAndSaysSo) {
+    const std::string line = GetParam();
+
+    const Outcome outcome = RunLines("\n" + line + "\necho never\n");
+
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err.rfind("t.scn:2: not built yet: " + line.substr(0, line.find(' ')), 0), 0U)
+        << outcome.err;
+    EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, NotBuiltLine, testing::ValuesIn(NotBuilt));
+
+constexpr const char* Malformed[] = {
+    "no-such-command",
+    "\"page\" 10 10",
+    "dpi 0",
+    "page",
+    "page 10",
+    "page 10 x",
+    "page 10 2.5",
+    "page 0 10",
+    "page 10 10 zoom 0",
+    "page 10 10 extra",
+    "scroll 1",
+    "base no-such-file.png",
+    "picture A",
+    "picture A #FF0000 1 2 3",
+    "picture A #FF0000 1 2 0 4",
+    "picture A #FF0000 1 2 3 4 mask square",
+    "picture A #FF0000 1 2 3 4 rounded",
+    "picture A no-such-file.png 1 2 3 4",
+    "placeholder P 1 2 3",
+    "free A",
+    "exclude A",
+    "handover 6 1 CSelectTool",
+    "handover 7 4 CNoTool",
+    "panel 13",
+    "page-shown light",
+    "property CSelectTool 13",
+    "panel-set volume 11",
+    "panel-set shadow-range 1 2 3",
+    "panel-set text Arial 12 0 0 #FFFFFF",
+    "panel-set clipboard 1 1",
+    "fit-to-placeholder A 1",
+    "bus remove",
+    "bus remove x",
+    "bus remove 7/{123}",
+    "bus add 51",
+    "bus forget 7",
+    "fault",
+    "fault no-such-fault",
+    "fault node once 3",
+    "fault node after -1",
+    "module unload",
+    "tool CNoTool",
+    "tool CSelectTool redraw 2",
+    "down 1",
+    "drag 1 2 3",
+    "drag 1 2 3 4 steps 0",
+    "queue wheel 1 1",
+    "pump -1",
+    "rclick 1 1",
+    "key",
+    "key F13",
+    "key 256",
+    "key LEFT 3",
+    "key LEFT x",
+    "hold LEFT both",
+    "type hello",
+    "char -1",
+    "wait -5",
+    "focus window",
+    "select",
+    "select A",
+    "select-only none",
+    "op NoSuchOperation",
+    "op main:51",
+    "op ops:39",
+    "op ClearSelection",
+    "ask kind CNoTool {0E1C6DC7-1DDE-4881-8AEE-E495DB635354} 1",
+    "ask state CSelectTool {0E1C6DC7-1DDE-4881-8AEE-E495DB635354}",
+    "service",
+    "mark",
+    "dump",
+    "dump weather",
+    "shot",
+    "shot s.png 1 2 3",
+    "shot s.png 700 400 100 100",
+    "render r.png scale 0",
+    "expect",
+    "expect page.width ==",
+    "expect page.width ~ 3",
+    "expect weather == 3",
+    "expect page. == 3",
+    "expect page.nodes[x] == 3",
+    "expect pixel 1 1 == red",
+    "expect pixel 9999 1 == #000000",
+    "undo 2",
+};
+
+class MalformedLine : public testing::TestWithParam<const char*> {};
+
+TEST_P(MalformedLine, EndsWithStatusTwoAndOneLine) {
+    const Outcome outcome = RunLines(std::string("echo first\n") + GetParam() + "\necho never\n");
+
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.out, "first\n");
+    EXPECT_EQ(outcome.err.rfind("t.scn:2: ", 0), 0U) << outcome.err;
+    EXPECT_EQ(outcome.err.find("not built yet"), std::string::npos) << outcome.err;
+    EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, MalformedLine, testing::ValuesIn(Malformed));
+
+TEST(Grammar, EveryCommandHasAUsageThatStartsWithItsName) {
+    for (const char* pszName :
+         {"codepage", "picture", "text", "drag", "editor", "dragtext", "expect", "accelerator"}) {
+        const CommandRow* pRow = FindCommand(pszName);
+        ASSERT_NE(pRow, nullptr) << pszName;
+        EXPECT_EQ(std::string(pRow->pszUsage).rfind(pszName, 0), 0U) << pRow->pszUsage;
+    }
+}
+
+TEST(Grammar, BlankLinesAndCommentsDoNothing) {
+    const Outcome outcome = RunLines("\n   \n# nothing\n\t# nothing either\n");
+
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.out + outcome.err, "");
+}
+
+TEST(Grammar, CarriageReturnsAtLineEndsAreBlanks) {
+    const Outcome outcome = RunLines("echo one\r\nundo\r\n");
+
+    EXPECT_EQ(outcome.out, "one\nundo -> 0\n");
+}
+
+} // namespace
