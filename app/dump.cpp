@@ -9,6 +9,7 @@
 #include "dump_nodes.h"
 #include "dump_trace.h"
 #include "image/node_host.h"
+#include "panel_kind.h"
 #include "platform/clock.h"
 #include "platform/counts.h"
 #include "platform/input.h"
@@ -103,7 +104,7 @@ Json KindJson(const ToolRow& row) {
 Json ToolJson(CStage& stage) {
     CListenerObject* pTool = stage.CurrentTool();
     const ToolRow* pRow = FindToolRow(pTool);
-    const int nPanelKind = stage.Desk().PanelKindOf(pTool);
+    const int nPanelKind = pTool ? AskPanelKind(*pTool) : 0;
     return {{"class", ClassJson(pTool)},
             {"kind", pRow ? KindJson(*pRow) : Json(nullptr)},
             {"panelKind", nPanelKind ? Json(nPanelKind) : Json(nullptr)},

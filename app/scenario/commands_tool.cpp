@@ -94,12 +94,27 @@ void ServiceMerge(CRunner& run, CArguments& args) {
     run.SayWithError(nResult, nError);
 }
 
+void ServiceShadow(CRunner& run, CArguments& args) {
+    CImgNode* pNode = run.NodeOrNone(args, "NAME or none");
+    const int nOffsetX = args.Int("DX");
+    const int nOffsetY = args.Int("DY");
+    COLORREF crColor = args.Color("#RRGGBB");
+    const int nSoftness = args.Int("SOFT");
+    const int nTransparency = args.Int("TRANSP");
+    args.End();
+    std::int32_t nError = 0;
+    const int nResult = run.ToolInterface<IToolLink>().CreateNodeShadow(pNode, nOffsetX, nOffsetY, &crColor,
+                                                                        nSoftness, nTransparency, &nError);
+    run.SayWithError(nResult, nError);
+}
+
 void Service(CRunner& run, CArguments& args) {
     switch (args.OneOf("the service",
-                       {"merge", "duplicate", "on-selection", "duplicate-scaled", "shadow", "blend"})) {
+                       {"merge", "duplicate", "on-selection", "shadow", "duplicate-scaled", "blend"})) {
     case 0: ServiceMerge(run, args); break;
     case 1: ServiceDuplicate(run, args); break;
     case 2: ServiceOnSelection(run, args); break;
+    case 3: ServiceShadow(run, args); break;
     default: throw CNotBuilt("service");
     }
 }

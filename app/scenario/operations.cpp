@@ -4,6 +4,7 @@
 #include <span>
 
 #include "desk/tool_operations.h"
+#include "panel_kind.h"
 #include "scenario/error.h"
 
 namespace {
@@ -117,6 +118,13 @@ void ShowNodeFrame(CRunner& run, CArguments& args, IToolObjectOps& ops) {
     run.Say(ops.ShowNodeFrame(pNode, nShow));
 }
 
+void RefreshNodeShadow(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    CImgNode* pNode = run.NodeOrNone(args, "NODE");
+    const int nRedraw = args.Int("N");
+    args.End();
+    run.Say(ops.RefreshNodeShadow(pNode, nRedraw));
+}
+
 constexpr std::array<OperationRow<OpsHandler>, 38> Ops = {{
     {1, "OnToolActivate", nullptr},
     {2, "ClearSelection", Plain<&IToolObjectOps::ClearSelection>},
@@ -124,7 +132,7 @@ constexpr std::array<OperationRow<OpsHandler>, 38> Ops = {{
     {4, "AddToSelection", List<&IToolObjectOps::AddToSelection>},
     {5, "SetSelection", SetSelection},
     {6, "ShowSelectionMarks", OneNumber<&IToolObjectOps::ShowSelectionMarks>},
-    {7, "RefreshNodeShadow", nullptr},
+    {7, "RefreshNodeShadow", RefreshNodeShadow},
     {8, "FlushSelectionArea", Plain<&IToolObjectOps::FlushSelectionArea>},
     {9, "RedrawSelectionArea", Plain<&IToolObjectOps::RedrawSelectionArea>},
     {10, "GetSelectionRect", RectOut<&IToolObjectOps::GetSelectionRect>},
@@ -162,6 +170,13 @@ template <int (CToolOperations::*pfnOp)()>
 void MainPlain(CRunner& run, CArguments& args, CToolOperations& tool) {
     args.End();
     run.Say((tool.*pfnOp)());
+}
+
+template <void (CToolOperations::*pfnOp)()>
+void MainCommand(CRunner& run, CArguments& args, CToolOperations& tool) {
+    args.End();
+    (tool.*pfnOp)();
+    SayNothing(run);
 }
 
 template <int (CToolOperations::*pfnOp)(CImgNode*, RECT*)>
@@ -225,6 +240,11 @@ void Paste(CRunner& run, CArguments& args, CToolOperations& tool) {
     run.Say(tool.m_fnPaste(point, nFlag));
 }
 
+void GetPanelKind(CRunner& run, CArguments& args, CToolOperations& tool) {
+    args.End();
+    run.Say(AskPanelKind(tool));
+}
+
 constexpr std::array<OperationRow<MainHandler>, 46> Main = {{
     {6, "GetToolRect", GetToolRect},
     {7, "OnObjectHook", nullptr},
@@ -243,35 +263,35 @@ constexpr std::array<OperationRow<MainHandler>, 46> Main = {{
     {20, "InvalidateMarkRect", MainNode<&CToolOperations::InvalidateMarkRect>},
     {21, "HitTestSelected", MainHit<&CToolOperations::HitTestSelected>},
     {22, "PtInNodeOutline", MainHit<&CToolOperations::PtInNodeOutline>},
-    {23, "m_fnBringForward", nullptr},
-    {24, "m_fnSendBackward", nullptr},
-    {25, "m_fnBringToFront", nullptr},
-    {26, "m_fnSendToBack", nullptr},
+    {23, "m_fnBringForward", MainCommand<&CToolOperations::m_fnBringForward>},
+    {24, "m_fnSendBackward", MainCommand<&CToolOperations::m_fnSendBackward>},
+    {25, "m_fnBringToFront", MainCommand<&CToolOperations::m_fnBringToFront>},
+    {26, "m_fnSendToBack", MainCommand<&CToolOperations::m_fnSendToBack>},
     {27, "m_fnCopy", Copy},
     {28, "m_fnPaste", Paste},
-    {29, "m_fnDelete", nullptr},
-    {30, "Empty30", nullptr},
-    {31, "Empty31", nullptr},
+    {29, "m_fnDelete", MainCommand<&CToolOperations::m_fnDelete>},
+    {30, "Empty30", MainCommand<&CToolOperations::Empty30>},
+    {31, "Empty31", MainCommand<&CToolOperations::Empty31>},
     {32, "m_fnRemoveFrame", nullptr},
     {33, "m_fnRemoveShadow", nullptr},
     {34, "m_fnEditTextAt", nullptr},
     {35, "m_fnRemoveTextEffect", nullptr},
-    {36, "m_fnAlignLeft", nullptr},
-    {37, "m_fnAlignTop", nullptr},
-    {38, "m_fnAlignRight", nullptr},
-    {39, "m_fnAlignBottom", nullptr},
-    {40, "m_fnAlignMiddle", nullptr},
-    {41, "m_fnAlignCenter", nullptr},
-    {42, "m_fnAlignCenters", nullptr},
-    {43, "m_fnDistributeVertically", nullptr},
-    {44, "m_fnDistributeHorizontally", nullptr},
-    {45, "m_fnSameWidth", nullptr},
-    {46, "m_fnSameHeight", nullptr},
-    {47, "m_fnSameSize", nullptr},
+    {36, "m_fnAlignLeft", MainCommand<&CToolOperations::m_fnAlignLeft>},
+    {37, "m_fnAlignTop", MainCommand<&CToolOperations::m_fnAlignTop>},
+    {38, "m_fnAlignRight", MainCommand<&CToolOperations::m_fnAlignRight>},
+    {39, "m_fnAlignBottom", MainCommand<&CToolOperations::m_fnAlignBottom>},
+    {40, "m_fnAlignMiddle", MainCommand<&CToolOperations::m_fnAlignMiddle>},
+    {41, "m_fnAlignCenter", MainCommand<&CToolOperations::m_fnAlignCenter>},
+    {42, "m_fnAlignCenters", MainCommand<&CToolOperations::m_fnAlignCenters>},
+    {43, "m_fnDistributeVertically", MainCommand<&CToolOperations::m_fnDistributeVertically>},
+    {44, "m_fnDistributeHorizontally", MainCommand<&CToolOperations::m_fnDistributeHorizontally>},
+    {45, "m_fnSameWidth", MainCommand<&CToolOperations::m_fnSameWidth>},
+    {46, "m_fnSameHeight", MainCommand<&CToolOperations::m_fnSameHeight>},
+    {47, "m_fnSameSize", MainCommand<&CToolOperations::m_fnSameSize>},
     {48, "Reserved48", nullptr},
     {49, "Reserved49", nullptr},
     {50, "OnNodeResized", nullptr},
-    {52, "GetPanelKind", nullptr},
+    {52, "GetPanelKind", GetPanelKind},
 }};
 
 template <class Handler>

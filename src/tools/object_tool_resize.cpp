@@ -119,9 +119,15 @@ void CObjectTool::ResizeTo(CImgNode* pNode, const CRect& rcDoc) {
     }
 }
 
+// The cache holds the true picture already; the window only has to show it again.
 void CObjectTool::CancelResize() {
-    if (IsResizing()) {
-        m_nResizing = 0;
-        ReleaseMouse();
+    if (!IsResizing()) {
+        return;
+    }
+    m_nResizing = 0;
+    ReleaseMouse();
+    CCanvas canvas(*this);
+    if (canvas && m_nFirstStep == 0) {
+        canvas.View().InvalidateRect(&m_rcLastOutline, FALSE);
     }
 }

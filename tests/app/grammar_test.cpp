@@ -31,15 +31,13 @@ constexpr const char* NotBuilt[] = {
     "focus editor",
     "export mask m.png",
     "service blend 50",
-    "service shadow A 1 1 #000000 0 0",
     "service duplicate-scaled A 2",
     "mark add-object",
     "mark attributes 5",
     "op CreateTextNode",
     "op ops:38",
-    "op m_fnDelete",
-    "op main:36",
-    "op GetPanelKind",
+    "op m_fnRemoveFrame",
+    "op main:35",
 };
 
 class NotBuiltLine : public testing::TestWithParam<const char*> {};
