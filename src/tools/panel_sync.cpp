@@ -3,6 +3,7 @@
 #include "host/panels.h"
 #include "host/text_node.h"
 #include "ops/bus.h"
+#include "ops/saturate.h"
 #include "ops/shared_value.h"
 #include "text/font_units.h"
 #include "text/text_style.h"
@@ -35,9 +36,9 @@ struct TextValues {
 
 /// What the selected shadows have in common, and how many objects have one.
 struct ShadowValues {
-    CSharedValue<int> x;
-    CSharedValue<int> y;
-    CSharedValue<int> softness;
+    CSharedValue<double> x;
+    CSharedValue<double> y;
+    CSharedValue<double> softness;
     CSharedValue<int> transparency;
     CSharedValue<COLORREF> color;
     int nShadowed = 0;
@@ -47,9 +48,9 @@ struct ShadowValues {
             return;
         }
         ++nShadowed;
-        x.Add(static_cast<int>(node.m_shadow.dOffsetX));
-        y.Add(static_cast<int>(node.m_shadow.dOffsetY));
-        softness.Add(static_cast<int>(node.m_shadow.dSoftness));
+        x.Add(node.m_shadow.dOffsetX);
+        y.Add(node.m_shadow.dOffsetY);
+        softness.Add(node.m_shadow.dSoftness);
         transparency.Add(node.m_shadow.nTransparency);
         color.Add(node.m_shadow.crColor);
     }

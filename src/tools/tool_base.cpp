@@ -52,6 +52,8 @@ void CToolBase::OnSetCursor(CPoint* pPoint) {
 int CToolBase::OnToolActivate(CListenerObject* pOther, int nActivate, int nRedraw) {
     if (nActivate != 1) {
         CancelMove();
+        // A host leaves the tool before it closes a page, whose nodes the capture holds.
+        m_pNudgeBefore.reset();
     }
     return CToolCore::OnToolActivate(pOther, nActivate, nRedraw);
 }

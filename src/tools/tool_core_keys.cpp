@@ -18,7 +18,8 @@ IObjectClipboard* FindClipboard(CListenerObject& seeker) {
 
 int CToolCore::OnKeyUp(UINT nChar, UINT, UINT) {
     CCanvas canvas(*this);
-    if (!canvas || !IsCtrlDown()) {
+    // A command in the middle of a gesture would select what the gesture selects again at its end.
+    if (!canvas || !IsCtrlDown() || !CanRunCommand()) {
         return 0;
     }
     switch (nChar) {
@@ -63,7 +64,7 @@ int CToolCore::CopyByKey(CCanvas& canvas) {
         return 1;
     }
     const CTxParam& tx = canvas.Selection().GetHead()->m_tx;
-    return m_fnCopy(canvas.ToClient(CPoint(tx.nX + tx.nWidth / 2, tx.nY + tx.nHeight / 2)));
+    return m_fnCopy(canvas.ToClient(CPoint(tx.nX, tx.nY) + CSize(tx.nWidth / 2, tx.nHeight / 2)));
 }
 
 int CToolCore::PasteByKey(CCanvas& canvas) { return m_fnPaste(canvas.ToClient(PasteOrigin), 1); }
