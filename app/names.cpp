@@ -21,7 +21,6 @@ std::string WithoutSuffix(const std::string& text, const std::string& suffix) {
 
 void CNames::Clear() {
     m_idByName.clear();
-    m_nameById.clear();
     m_rootById.clear();
     m_copies.clear();
     m_nTexts = 0;
@@ -89,6 +88,16 @@ std::string CNames::CompanionName(const CImgNode* pNode) {
     return Of(pNode->m_pOwner) + (bShadow ? ShadowSuffix : FrameSuffix);
 }
 
+// A person may have called a node of their own "A#2".
+std::string CNames::FreeName(const std::string& root) {
+    int& nCopies = m_copies.try_emplace(root, 1).first->second;
+    std::string name;
+    do {
+        name = root + "#" + std::to_string(++nCopies);
+    } while (m_idByName.count(name));
+    return name;
+}
+
 // Copies of copies count on from the first one, so that every copy of A is A#n.
 void CNames::NameNewNode(const CImgNode* pNode) {
     if (const std::uint32_t nSource = CNodeBookkeeping::CopyOf(*pNode)) {
@@ -96,7 +105,7 @@ void CNames::NameNewNode(const CImgNode* pNode) {
         const auto found = m_rootById.find(nSource);
         const std::string root = found == m_rootById.end() ? source : found->second;
         m_rootById[pNode->m_nId] = root;
-        Give(root + "#" + std::to_string(++m_copies.try_emplace(root, 1).first->second), pNode);
+        Give(FreeName(root), pNode);
     } else if (pNode->m_nType == node_type::Text) {
         Give("text#" + std::to_string(++m_nTexts), pNode);
     } else {

@@ -16,7 +16,7 @@ class CNames {
   public:
     explicit CNames(const CDesk& desk) : m_desk(desk) {}
 
-    /// Forgets every name; numbers start again.
+    /// Nobody bears a name any more, and numbers start again. What the nodes so far were called stays known.
     void Clear();
     /// Labels a node; a former holder of the name loses it.
     void Give(const std::string& name, const CImgNode* pNode);
@@ -32,6 +32,7 @@ class CNames {
 
   private:
     void NameNewNode(const CImgNode* pNode);
+    std::string FreeName(const std::string& root);
     std::string CompanionName(const CImgNode* pNode);
 
     const CDesk& m_desk;

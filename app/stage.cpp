@@ -119,15 +119,15 @@ int CStage::DetachModule() {
     return 1;
 }
 
-void CStage::NewPage(int nWidth, int nHeight, double dZoom) {
-    m_desk.NewPage(nWidth, nHeight, dZoom);
+bool CStage::NewPage(int nWidth, int nHeight, double dZoom) {
     m_names.Clear();
+    return m_desk.NewPage(nWidth, nHeight, dZoom);
 }
 
 void CStage::SetScroll(CPoint ptDoc) { CViewHost::SetScroll(*m_desk.View(), ptDoc); }
 
-void CStage::SetViewSize(int nWidth, int nHeight) {
-    CViewHost::SetClientSize(*m_desk.View(), nWidth, nHeight);
+bool CStage::SetViewSize(int nWidth, int nHeight) {
+    return CViewHost::SetClientSize(*m_desk.View(), nWidth, nHeight);
 }
 
 void CStage::SetBaseColor(COLORREF crBase) {
@@ -185,10 +185,10 @@ CImgNode* CStage::AddPlaceholder(const std::string& name, int nX, int nY, int nW
     trace::CQuietScope quiet;
     CVorDoc& doc = *m_desk.Document();
     const CRect rect(nX, nY, nX + nWidth, nY + nHeight);
-    CImgNode* pFrame = MakeEmptyFrame(doc, rect);
-    CImgNode* pObject = pFrame ? AddPicture(name, PlaceholderFill, nX, nY, nWidth, nHeight) : nullptr;
-    if (!pObject) {
-        delete pFrame;
+    CImgNode* pObject = AddPicture(name, PlaceholderFill, nX, nY, nWidth, nHeight);
+    CImgNode* pFrame = pObject ? MakeEmptyFrame(doc, rect) : nullptr;
+    if (!pFrame) {
+        delete pObject;
         return nullptr;
     }
     JoinPlaceholder(*pObject, *pFrame, rect);
@@ -213,6 +213,10 @@ bool CStage::FreeNode(CImgNode* pNode) {
     if (CNodeBookkeeping::IsOnPage(*pNode)) {
         return false;
     }
+    if (m_desk.ExcludedNode() == pNode) {
+        Exclude(nullptr);
+    }
+    GetUndoMgr()->Clear();
     delete pNode;
     return true;
 }

@@ -53,10 +53,11 @@ class CStage {
     int DetachModule();
     bool IsModuleLoaded() const { return m_hModule != nullptr; }
 
-    /// A new page of document units; the view gets the page's size in client pixels, cut to whole ones.
-    void NewPage(int nWidth, int nHeight, double dZoom = 1.0);
+    /// A new page of document units; the view gets the page's size in client pixels, cut to whole ones. False
+    /// when there is no memory for its base image or its view.
+    bool NewPage(int nWidth, int nHeight, double dZoom = 1.0);
     void SetScroll(CPoint ptDoc);
-    void SetViewSize(int nWidth, int nHeight);
+    bool SetViewSize(int nWidth, int nHeight);
     void SetBaseColor(COLORREF crBase);
     /// Null takes the base image away. False and a reason when the file is no picture.
     bool SetBaseFile(const char* pszFile, std::string& error);
@@ -71,7 +72,8 @@ class CStage {
                              int nHeight, const PictureOptions& options, std::string& error);
     /// An object in placeholder mode with the empty frame of its own size.
     CImgNode* AddPlaceholder(const std::string& name, int nX, int nY, int nWidth, int nHeight);
-    /// Deletes a node that is off the page; false for one that is on it.
+    /// Deletes a node that is off the page; false for one that is on it. The recorded steps go first, because
+    /// they may point at it.
     bool FreeNode(CImgNode* pNode);
     /// The node that the tools' hit tests skip; null for none.
     void Exclude(CImgNode* pNode);

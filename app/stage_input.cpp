@@ -154,10 +154,11 @@ void CStage::DblClick(CPoint point, Ctrl ctrl) {
 void CStage::Drag(CPoint ptFrom, CPoint ptTo, Ctrl ctrl, int nSteps) {
     CCtrlScope held(ctrl);
     Press(ptFrom);
+    const auto share = [nSteps](LONG nFrom, LONG nTo, int n) {
+        return nFrom + static_cast<LONG>((std::int64_t{nTo} - nFrom) * n / nSteps);
+    };
     for (int n = 1; n <= nSteps; n++) {
-        const CPoint ptStep(ptFrom.x + (ptTo.x - ptFrom.x) * n / nSteps,
-                            ptFrom.y + (ptTo.y - ptFrom.y) * n / nSteps);
-        Move(ptStep);
+        Move({share(ptFrom.x, ptTo.x, n), share(ptFrom.y, ptTo.y, n)});
     }
     Release(ptTo);
 }

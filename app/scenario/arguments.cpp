@@ -1,9 +1,23 @@
 #include "scenario/arguments.h"
 
+#include <algorithm>
+#include <cctype>
 #include <climits>
 
 #include "scenario/error.h"
 #include "scenario/keys.h"
+
+namespace {
+
+constexpr int FarthestClient = 32767;
+
+/// One would break the line in which the name is printed.
+bool HasControls(const std::string& text) {
+    return std::any_of(text.begin(), text.end(),
+                       [](char c) { return std::iscntrl(static_cast<unsigned char>(c)) != 0; });
+}
+
+} // namespace
 
 const Token& CArguments::Any(const char* pszWhat) {
     if (AtEnd()) {
@@ -20,7 +34,7 @@ std::string CArguments::Name(const char* pszWhat) {
     const Token& token = Any(pszWhat);
     const bool bName =
         token.kind == TokenKind::Word || token.kind == TokenKind::String || token.kind == TokenKind::Number;
-    if (!bName || token.text.empty()) {
+    if (!bName || token.text.empty() || HasControls(token.text)) {
         Fail(std::string(pszWhat) + " is no name");
     }
     return token.text;
@@ -59,6 +73,11 @@ double CArguments::Double(const char* pszWhat) {
 CPoint CArguments::Point(const char* pszWhat) {
     const int nX = Int(pszWhat);
     return CPoint(nX, Int(pszWhat));
+}
+
+CPoint CArguments::ClientPoint(const char* pszWhat) {
+    const int nX = IntIn(pszWhat, -FarthestClient, FarthestClient);
+    return CPoint(nX, IntIn(pszWhat, -FarthestClient, FarthestClient));
 }
 
 COLORREF CArguments::Color(const char* pszWhat) {

@@ -25,7 +25,7 @@ class CArguments {
     /// Whether the next token is the bare word, which is not taken.
     bool NextIsWord(const char* pszWord) const;
 
-    /// A name or file: bare or in quotes.
+    /// A name or file: bare or in quotes, without control characters.
     std::string Name(const char* pszWhat);
     /// A string in quotes.
     std::string String(const char* pszWhat);
@@ -34,6 +34,8 @@ class CArguments {
     int IntIn(const char* pszWhat, int nMin, int nMax);
     double Double(const char* pszWhat);
     CPoint Point(const char* pszWhat);
+    /// A point of the view that a window message can carry: 16 bits a side.
+    CPoint ClientPoint(const char* pszWhat);
     COLORREF Color(const char* pszWhat);
     GUID Guid(const char* pszWhat);
     RECT Rect(const char* pszWhat);

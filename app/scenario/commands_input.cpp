@@ -12,15 +12,15 @@ Ctrl TakeCtrl(CArguments& args) { return args.TakeWord("ctrl") ? Ctrl::Down : Ct
 using PointAction = void (CStage::*)(CPoint, Ctrl);
 template <PointAction pfnAct>
 void AtPoint(CRunner& run, CArguments& args) {
-    const CPoint point = args.Point("X Y");
+    const CPoint point = args.ClientPoint("X Y");
     const Ctrl ctrl = TakeCtrl(args);
     args.End();
     (run.Stage().*pfnAct)(point, ctrl);
 }
 
 void Drag(CRunner& run, CArguments& args) {
-    const CPoint ptFrom = args.Point("X1 Y1");
-    const CPoint ptTo = args.Point("X2 Y2");
+    const CPoint ptFrom = args.ClientPoint("X1 Y1");
+    const CPoint ptTo = args.ClientPoint("X2 Y2");
     Ctrl ctrl = Ctrl::Up;
     int nSteps = 4;
     while (!args.AtEnd()) {
@@ -36,7 +36,7 @@ void Drag(CRunner& run, CArguments& args) {
 }
 
 void Pointer(CRunner& run, CArguments& args) {
-    const CPoint point = args.Point("X Y");
+    const CPoint point = args.ClientPoint("X Y");
     args.End();
     run.Stage().SetPointer(point);
 }
@@ -52,7 +52,7 @@ void Queue(CRunner& run, CArguments& args) {
     }
     constexpr void (CStage::*Posts[])(CPoint) = {&CStage::QueuePress, &CStage::QueueMove,
                                                  &CStage::QueueRelease};
-    const CPoint point = args.Point("X Y");
+    const CPoint point = args.ClientPoint("X Y");
     args.End();
     (stage.*Posts[nWhat])(point);
 }
@@ -64,7 +64,7 @@ void Pump(CRunner& run, CArguments& args) {
 }
 
 void RClick(CRunner& run, CArguments& args) {
-    const CPoint point = args.Point("X Y");
+    const CPoint point = args.ClientPoint("X Y");
     if (args.NextIs(TokenKind::Number) || args.NextIsWord("dismiss-at")) {
         throw CNotBuilt("rclick");
     }

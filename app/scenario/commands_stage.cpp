@@ -1,4 +1,5 @@
 #include <array>
+#include <climits>
 
 #include "scenario/commands.h"
 #include "scenario/error.h"
@@ -6,18 +7,44 @@
 namespace {
 
 constexpr int LargestSide = 32767;
+/// More would be a slip that fills the machine's memory: half a gibibyte of view.
+constexpr double MostPixels = 1 << 27;
 
-void Page(CRunner& run, CArguments& args) {
+bool IsArea(double dWidth, double dHeight) {
+    return dWidth >= 1.0 && dHeight >= 1.0 && dWidth <= LargestSide && dHeight <= LargestSide &&
+           dWidth * dHeight <= MostPixels;
+}
+
+/// "W H" of something that has pixels.
+CSize TakeSize(CArguments& args) {
     const int nWidth = args.IntIn("W", 1, LargestSide);
     const int nHeight = args.IntIn("H", 1, LargestSide);
+    if (!IsArea(nWidth, nHeight)) {
+        args.Fail("W by H is too large");
+    }
+    return CSize(nWidth, nHeight);
+}
+
+/// "X Y W H" of something that lies on the page.
+CRect TakeRect(CArguments& args) {
+    const CPoint point = args.Point("X Y");
+    const CSize size = TakeSize(args);
+    if (point.x > INT_MAX - size.cx || point.y > INT_MAX - size.cy) {
+        args.Fail("X Y W H is out of range");
+    }
+    return CRect(point, size);
+}
+
+void Page(CRunner& run, CArguments& args) {
+    const CSize size = TakeSize(args);
     const double dZoom = args.TakeWord("zoom") ? args.Double("Z") : 1.0;
     args.End();
-    const bool bFits = dZoom > 0.0 && nWidth * dZoom >= 1.0 && nHeight * dZoom >= 1.0 &&
-                       nWidth * dZoom <= LargestSide && nHeight * dZoom <= LargestSide;
-    if (!bFits) {
+    if (!IsArea(size.cx * dZoom, size.cy * dZoom)) {
         args.Fail("Z is out of range");
     }
-    run.Stage().NewPage(nWidth, nHeight, dZoom);
+    if (!run.Stage().NewPage(size.cx, size.cy, dZoom)) {
+        throw CScenarioError("no memory for the page");
+    }
 }
 
 void Scroll(CRunner& run, CArguments& args) {
@@ -27,10 +54,11 @@ void Scroll(CRunner& run, CArguments& args) {
 }
 
 void View(CRunner& run, CArguments& args) {
-    const int nWidth = args.IntIn("W", 1, LargestSide);
-    const int nHeight = args.IntIn("H", 1, LargestSide);
+    const CSize size = TakeSize(args);
     args.End();
-    run.Stage().SetViewSize(nWidth, nHeight);
+    if (!run.Stage().SetViewSize(size.cx, size.cy)) {
+        throw CScenarioError("no memory for the view");
+    }
 }
 
 void Base(CRunner& run, CArguments& args) {
@@ -74,15 +102,14 @@ void PictureCommand(CRunner& run, CArguments& args) {
     const bool bColor = args.NextIs(TokenKind::Color);
     const COLORREF crFill = bColor ? args.Color("#RRGGBB") : 0;
     const std::string file = bColor ? std::string() : args.Name("#RRGGBB or FILE");
-    const CPoint point = args.Point("X Y");
-    const int nWidth = args.IntIn("W", 1, LargestSide);
-    const int nHeight = args.IntIn("H", 1, LargestSide);
+    const CRect rect = TakeRect(args);
     const PictureOptions options = ReadOptions(args);
     CStage& stage = run.Stage();
     std::string error = "no memory for the picture";
     const CImgNode* pNode =
-        bColor ? stage.AddPicture(name, crFill, point.x, point.y, nWidth, nHeight, options)
-               : stage.AddPictureFile(name, file.c_str(), point.x, point.y, nWidth, nHeight, options, error);
+        bColor ? stage.AddPicture(name, crFill, rect.left, rect.top, rect.Width(), rect.Height(), options)
+               : stage.AddPictureFile(name, file.c_str(), rect.left, rect.top, rect.Width(), rect.Height(),
+                                      options, error);
     if (!pNode) {
         throw CScenarioError((bColor ? name : file) + ": " + error);
     }
@@ -90,11 +117,9 @@ void PictureCommand(CRunner& run, CArguments& args) {
 
 void Placeholder(CRunner& run, CArguments& args) {
     const std::string name = args.Name("NAME");
-    const CPoint point = args.Point("X Y");
-    const int nWidth = args.IntIn("W", 1, LargestSide);
-    const int nHeight = args.IntIn("H", 1, LargestSide);
+    const CRect rect = TakeRect(args);
     args.End();
-    if (!run.Stage().AddPlaceholder(name, point.x, point.y, nWidth, nHeight)) {
+    if (!run.Stage().AddPlaceholder(name, rect.left, rect.top, rect.Width(), rect.Height())) {
         throw CScenarioError(name + ": no memory for the placeholder");
     }
 }

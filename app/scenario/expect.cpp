@@ -1,5 +1,6 @@
 #include "scenario/expect.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdlib>
 
@@ -37,27 +38,30 @@ class CPathReader {
         if (m_nAt == nStart) {
             Malformed();
         }
-        return {m_path.substr(nStart, m_nAt - nStart), false, 0};
+        return {ToUtf8(m_path.substr(nStart, m_nAt - nStart)), false, 0};
     }
 
     Step Bracketed() {
-        const bool bQuoted = m_nAt + 1 < m_path.size() && m_path[m_nAt + 1] == '"';
-        const std::size_t nStart = m_nAt + (bQuoted ? 2 : 1);
-        const std::size_t nEnd = m_path.find(bQuoted ? "\"]" : "]", nStart);
-        if (m_path[m_nAt] != '[' || nEnd == std::string::npos || nEnd == nStart) {
+        if (m_path[m_nAt++] != '[' || AtEnd()) {
             Malformed();
         }
-        Step step;
-        step.name = m_path.substr(nStart, nEnd - nStart);
-        m_nAt = nEnd + (bQuoted ? 2 : 1);
-        if (!bQuoted) {
-            if (step.name.size() > 9 || step.name.find_first_not_of("0123456789") != std::string::npos) {
-                Malformed();
-            }
-            step.bIndex = true;
-            step.nIndex = static_cast<std::size_t>(std::strtoul(step.name.c_str(), nullptr, 10));
+        const Step step = m_path[m_nAt] == '"' ? Quoted() : Numbered();
+        if (AtEnd() || m_path[m_nAt++] != ']') {
+            Malformed();
         }
         return step;
+    }
+
+    Step Quoted() { return {ToUtf8(ReadString(m_path, m_nAt)), false, 0}; }
+
+    Step Numbered() {
+        const std::size_t nEnd = std::min(m_path.find_first_not_of("0123456789", m_nAt), m_path.size());
+        const std::string digits = m_path.substr(m_nAt, nEnd - m_nAt);
+        if (digits.empty() || digits.size() > 9) {
+            Malformed();
+        }
+        m_nAt = nEnd;
+        return {digits, true, static_cast<std::size_t>(std::strtoul(digits.c_str(), nullptr, 10))};
     }
 
     [[noreturn]] void Malformed() const { throw CScenarioError("the path is malformed: " + m_path); }
@@ -94,8 +98,11 @@ Json Follow(const Json& json, const Step& step) {
     return json.is_array() ? ElementNamed(json, step.name) : Json(nullptr);
 }
 
-/// Text that is JSON (a number, a rectangle) as that, else as text.
+/// Text that is JSON (a number, a rectangle) as that, `none` and nothing as null, else as text.
 Json AnswerJson(const std::string& text) {
+    if (text.empty() || text == "none") {
+        return nullptr;
+    }
     const Json json = Json::parse(text, nullptr, false);
     return json.is_discarded() ? Json(ToUtf8(text)) : json;
 }

@@ -32,6 +32,32 @@ COLORREF ColorOf(const std::string& digits) {
                static_cast<int>(nRgb & 0xFF));
 }
 
+/// Lists in lists in lists: deeper ones are a slip, and each takes room on the stack.
+constexpr int DeepestList = 16;
+
+char HexEscape(const std::string& text, std::size_t& nAt) {
+    if (nAt + 1 >= text.size() || !IsHex(text[nAt]) || !IsHex(text[nAt + 1])) {
+        throw CScenarioError("\\x needs two hexadecimal digits");
+    }
+    const unsigned long nByte = std::strtoul(text.substr(nAt, 2).c_str(), nullptr, 16);
+    nAt += 2;
+    return static_cast<char>(static_cast<unsigned char>(nByte));
+}
+
+char Escape(const std::string& text, std::size_t& nAt) {
+    const char c = nAt + 1 < text.size() ? text[nAt + 1] : '\0';
+    nAt += 2;
+    switch (c) {
+    case 'n': return '\n';
+    case 'r': return '\r';
+    case 't': return '\t';
+    case '"':
+    case '\\': return c;
+    case 'x': return HexEscape(text, nAt);
+    default: throw CScenarioError("an escape in a string is none of \\n \\r \\t \\\" \\\\ \\xHH");
+    }
+}
+
 class CLexer {
   public:
     explicit CLexer(const std::string& line) : m_line(line) {}
@@ -72,7 +98,7 @@ class CLexer {
     Token Next(bool bInList) {
         switch (Here()) {
         case '"': return String(bInList);
-        case '[': return List();
+        case '[': return List(bInList);
         case '{': return Guid(bInList);
         case '#': return Color();
         default: return Word(bInList);
@@ -91,44 +117,17 @@ class CLexer {
     Token String(bool bInList) {
         Token token;
         token.kind = TokenKind::String;
-        m_nAt++;
-        while (!AtEnd() && Here() != '"') {
-            token.text += Here() == '\\' ? Escape() : m_line[m_nAt++];
-        }
-        if (AtEnd()) {
-            throw CScenarioError("a string does not end");
-        }
-        m_nAt++;
+        token.text = ReadString(m_line, m_nAt);
         if (!EndsToken(m_nAt, bInList)) {
             throw CScenarioError("a blank is missing behind a string");
         }
         return token;
     }
 
-    char Escape() {
-        const char c = m_nAt + 1 < m_line.size() ? m_line[m_nAt + 1] : '\0';
-        m_nAt += 2;
-        switch (c) {
-        case 'n': return '\n';
-        case 'r': return '\r';
-        case 't': return '\t';
-        case '"':
-        case '\\': return c;
-        case 'x': return HexEscape();
-        default: throw CScenarioError("an escape in a string is none of \\n \\r \\t \\\" \\\\ \\xHH");
+    Token List(bool bInList) {
+        if (++m_nDepth > DeepestList) {
+            throw CScenarioError("lists stand too deep in each other");
         }
-    }
-
-    char HexEscape() {
-        if (m_nAt + 1 >= m_line.size() || !IsHex(m_line[m_nAt]) || !IsHex(m_line[m_nAt + 1])) {
-            throw CScenarioError("\\x needs two hexadecimal digits");
-        }
-        const unsigned long nByte = std::strtoul(m_line.substr(m_nAt, 2).c_str(), nullptr, 16);
-        m_nAt += 2;
-        return static_cast<char>(static_cast<unsigned char>(nByte));
-    }
-
-    Token List() {
         Token token;
         token.kind = TokenKind::List;
         const std::size_t nStart = m_nAt++;
@@ -148,6 +147,10 @@ class CLexer {
             token.items.push_back(Next(true));
         }
         m_nAt++;
+        m_nDepth--;
+        if (!EndsToken(m_nAt, bInList)) {
+            throw CScenarioError("a blank is missing behind a list");
+        }
         token.text = m_line.substr(nStart, m_nAt - nStart);
         return token;
     }
@@ -165,13 +168,15 @@ class CLexer {
         return token;
     }
 
-    /// A blank between quotes belongs to the word, so that a path can name any node.
+    /// A string behind a bracket belongs to the word, so that a path can name any node.
     Token Word(bool bInList) {
         const std::size_t nStart = m_nAt;
-        bool bQuoted = false;
-        while (!AtEnd() && (bQuoted || !EndsToken(m_nAt, bInList))) {
-            bQuoted ^= Here() == '"';
-            m_nAt++;
+        while (!EndsToken(m_nAt, bInList)) {
+            if (Here() == '"' && m_nAt > nStart && m_line[m_nAt - 1] == '[') {
+                ReadString(m_line, m_nAt);
+            } else {
+                m_nAt++;
+            }
         }
         Token token;
         token.text = m_line.substr(nStart, m_nAt - nStart);
@@ -198,8 +203,22 @@ class CLexer {
 
     const std::string& m_line;
     std::size_t m_nAt = 0;
+    int m_nDepth = 0; ///< of the lists around the place
 };
 
 } // namespace
+
+std::string ReadString(const std::string& text, std::size_t& nAt) {
+    std::string bytes;
+    nAt++;
+    while (nAt < text.size() && text[nAt] != '"') {
+        bytes += text[nAt] == '\\' ? Escape(text, nAt) : text[nAt++];
+    }
+    if (nAt >= text.size()) {
+        throw CScenarioError("a string does not end");
+    }
+    nAt++;
+    return bytes;
+}
 
 LexedLine Lex(const std::string& line) { return CLexer(line).Run(); }

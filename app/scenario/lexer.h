@@ -25,3 +25,6 @@ struct LexedLine {
 
 /// Splits a line. Throws CScenarioError for a string, list or GUID that does not end or is malformed.
 LexedLine Lex(const std::string& line);
+/// The bytes of the string whose opening quote stands at `nAt`, which moves behind the closing one. Throws
+/// CScenarioError for one that does not end or has an unknown escape.
+std::string ReadString(const std::string& text, std::size_t& nAt);

@@ -7,11 +7,37 @@
 #include "scenario/commands.h"
 #include "scenario/error.h"
 
+namespace {
+
+constexpr std::size_t LongestLine = std::size_t{1} << 20;
+
+/// The next line; false at the end. A file without line ends is not gathered up endlessly.
+bool ReadLine(std::istream& in, std::string& line) {
+    line.clear();
+    std::streambuf& buffer = *in.rdbuf();
+    int c = buffer.sbumpc();
+    if (c == std::char_traits<char>::eof()) {
+        return false;
+    }
+    for (; c != std::char_traits<char>::eof() && c != '\n'; c = buffer.sbumpc()) {
+        if (line.size() == LongestLine) {
+            throw CScenarioError("the line is longer than a mebibyte");
+        }
+        line += static_cast<char>(c);
+    }
+    return true;
+}
+
+} // namespace
+
 int CRunner::Run(std::istream& in, const std::string& file) {
     std::string line;
-    for (int nLine = 1; std::getline(in, line); nLine++) {
+    for (int nLine = 1;; nLine++) {
         const auto where = [&] { return file + ":" + std::to_string(nLine) + ": "; };
         try {
+            if (!ReadLine(in, line)) {
+                return exit_status::Done;
+            }
             RunLine(line);
         } catch (const CExpectationFailed& failure) {
             m_err << where() << failure.what() << '\n';
@@ -21,7 +47,6 @@ int CRunner::Run(std::istream& in, const std::string& file) {
             return exit_status::Unusable;
         }
     }
-    return exit_status::Done;
 }
 
 void CRunner::RunLine(const std::string& line) {

@@ -9,6 +9,8 @@
 
 namespace {
 
+std::uint32_t g_nLockCount = 0;
+
 constexpr int MaxSide = 32767;
 
 struct Header {
@@ -154,6 +156,7 @@ void* buf32Lock(HBUF32 hBuf, int /*nMode*/) {
     if (pHeader == nullptr)
         return nullptr;
     ++pHeader->nLocks;
+    ++g_nLockCount;
     return Pixels(pHeader);
 }
 
@@ -207,5 +210,7 @@ View Look(HBUF32 hBuf) {
 }
 
 std::size_t BufferCount() { return Table().Count(); }
+
+std::uint32_t LockCount() { return g_nLockCount; }
 
 } // namespace buffer_host

@@ -26,6 +26,8 @@ struct View {
 
 /// The buffer's pixels without counting a lock; `pixels` is null for a bad handle.
 View Look(HBUF32 hBuf);
+/// Goes up whenever a buffer's pixels may have been written from outside: at every lock.
+std::uint32_t LockCount();
 /// The buffers alive in the process.
 std::size_t BufferCount();
 

@@ -7,9 +7,16 @@
 #include "desk/tool_catalog.h"
 #include "host/tool_interfaces.h"
 #include "host/undo.h"
+#include "image/picture_node.h"
 #include "image/view_host.h"
 #include "platform/faults.h"
 #include "trace/trace.h"
+
+namespace {
+
+constexpr COLORREF StartBase = RGB(0x50, 0x50, 0x50);
+
+} // namespace
 
 CDesk::CDesk()
     : m_service(*this), m_objectPage(kind::ObjectPage, {&m_values, &m_told, this}),
@@ -58,22 +65,21 @@ void CDesk::DropTools() {
     }
 }
 
-void CDesk::NewPage(int nWidth, int nHeight, double dZoom) {
+bool CDesk::NewPage(int nWidth, int nHeight, double dZoom) {
     trace::CQuietScope quiet;
     const CToldRecord told = m_told;
     Activate(m_pCurrent, m_pCurrent, 0, 0);
     GetUndoMgr()->Clear();
     SetExcludedNode(nullptr);
-    ReplaceDocument(nWidth, nHeight);
+    const bool bBase = ReplaceDocument(nWidth, nHeight);
     Activate(m_pCurrent, nullptr, 1, 0);
     m_told = told;
-    if (m_pView) {
-        CViewHost::SetAll(*m_pView, static_cast<int>(nWidth * dZoom), static_cast<int>(nHeight * dZoom),
-                          dZoom, CPoint(0, 0));
-    }
+    const bool bView = !m_pView || CViewHost::SetAll(*m_pView, static_cast<int>(nWidth * dZoom),
+                                                     static_cast<int>(nHeight * dZoom), dZoom, CPoint(0, 0));
+    return bBase && bView;
 }
 
-void CDesk::ReplaceDocument(int nWidth, int nHeight) {
+bool CDesk::ReplaceDocument(int nWidth, int nHeight) {
     auto pDoc = std::make_unique<CVorDoc>(nWidth, nHeight);
     if (m_pView) {
         if (m_pDoc) {
@@ -81,15 +87,21 @@ void CDesk::ReplaceDocument(int nWidth, int nHeight) {
         }
         pDoc->AddView(m_pView);
     }
+    Picture base;
+    const bool bBase = SolidPicture(StartBase, nWidth, nHeight, base);
+    pDoc->SetBaseImage(base.image.Release());
     m_pDoc = std::move(pDoc);
     m_pageObjects.SetDocument(m_pDoc.get());
+    return bBase;
 }
 
 void CDesk::SetBaseImage(HBUF32 hImage) {
-    trace::CQuietScope quiet;
-    const CBufferPtr former(m_pDoc->GetBaseImage());
-    m_pDoc->SetBaseImage(hImage);
-    m_pDoc->m_fnSetSrcBaseImage(0);
+    {
+        trace::CQuietScope quiet;
+        const CBufferPtr former(m_pDoc->GetBaseImage());
+        m_pDoc->SetBaseImage(hImage);
+        m_pDoc->m_fnSetSrcBaseImage(0);
+    }
     if (m_pView) {
         CViewHost::RecomposeAll(*m_pView);
     }
@@ -239,11 +251,13 @@ CPropertyPage* CDesk::PageOfKind(int nKind) {
 
 CListenerObject* CDesk::PropertyPage(const GUID& toolClass) {
     const auto set = m_propertyKinds.find(GuidText(toolClass));
-    if (set != m_propertyKinds.end()) {
-        return PageOfKind(set->second);
-    }
     const ToolRow* pRow = FindToolRow(toolClass);
-    return pRow ? PageOfKind(pRow->nPropertyKind) : nullptr;
+    const int nKind = set != m_propertyKinds.end() ? set->second : pRow ? pRow->nPropertyKind : 0;
+    CPropertyPage* pPage = PageOfKind(nKind);
+    if (pPage) {
+        pPage->HandedOver();
+    }
+    return pPage;
 }
 
 void CDesk::SetPropertyKind(const GUID& toolClass, int nKind) {

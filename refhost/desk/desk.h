@@ -39,8 +39,9 @@ class CDesk : public IToolCategory, private IPageSelection {
     void DropTools();
 
     /// A new page (document units) at a zoom; the view gets its size in client pixels, cut to whole ones.
-    /// Undo, excluded node and an open editor go; the current tool stays.
-    void NewPage(int nWidth, int nHeight, double dZoom);
+    /// The base image is dark grey. Undo, excluded node and an open editor go; the current tool stays. False
+    /// when there is no memory for the base image or the view's cache: the page is there without it.
+    bool NewPage(int nWidth, int nHeight, double dZoom);
     CVorDoc* Document() const { return m_pDoc.get(); }
     CDeskView* View() const { return m_pView; }
     void OnViewGone() { m_pView = nullptr; }
@@ -94,7 +95,7 @@ class CDesk : public IToolCategory, private IPageSelection {
     void OnPageSelected(int nKind, int nPage) override;
     void LinkTool(CListenerObject* pTool);
     void Activate(CListenerObject* pTool, CListenerObject* pOther, int nActivate, int nRedraw);
-    void ReplaceDocument(int nWidth, int nHeight);
+    bool ReplaceDocument(int nWidth, int nHeight);
     void ChooseShownPage();
     CPropertyPage* PageOfKind(int nKind);
     void ShowMarks();

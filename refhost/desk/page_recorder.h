@@ -23,11 +23,12 @@ struct PageSurroundings {
     IPageSelection* pSelection;
 };
 
-/// One page's voice: its calls stand in the trace under its own kind, whichever kind it was found by.
+/// One page's voice: its calls stand in the trace under the kind by which it was last found.
 class CPageRecorder {
   public:
-    CPageRecorder(int nKind, const PageSurroundings& around)
-        : m_on(std::to_string(nKind)), m_around(around) {}
+    CPageRecorder(int nKind, const PageSurroundings& around) : m_around(around) { FoundBy(nKind); }
+
+    void FoundBy(int nKind) { m_on = std::to_string(nKind); }
 
     /// Records one call of an operation that tells the page something, or asks it.
     void Told(const GUID& iid, int nOp, std::initializer_list<trace::Value> args) const {

@@ -51,6 +51,14 @@ void CPropertyPage::SetTextToo(bool bTextToo) {
     }
 }
 
+int CPropertyPage::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
+    const int nAnswer = CBusObject::IsKindOf(category, nKind, pResult, pExtra);
+    if (nAnswer == 1 && nKind != kind::Any) {
+        m_recorder.FoundBy(nKind);
+    }
+    return nAnswer;
+}
+
 int CPropertyPage::QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) {
     if (m_bText || !IsTextInterface(iid)) {
         return CBusObject::QueryInterface(iid, ppInterface, pExtra);

@@ -23,6 +23,11 @@ class CPropertyPage : public CBusObject,
     /// Whether a page of another kind answers kind 12 and the text page's interfaces besides its own.
     void SetTextToo(bool bTextToo);
 
+    /// The page was handed over as a tool's property object, without a search.
+    void HandedOver() { m_recorder.FoundBy(m_nKind); }
+
+    /// Answering a search for a kind, the page speaks under that kind from then on.
+    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
     int QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) override;
 
     int OnObjectsChanged(int nChanged) override;

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <cstring>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace blend {
 namespace {
 
@@ -40,17 +44,39 @@ void MixRow(std::uint32_t* pTarget, const std::uint8_t* pSource, const std::uint
 
 bool IsPlain(std::uint8_t mask) { return mask == 0 || mask == 255; }
 
-/// The end of the run that starts at `at`: of one plain value, or of values that must be mixed.
+/// The end of the run that starts at `at`: of one plain value, or of values that must be mixed. Plain runs
+/// are long, so they are followed a machine word at a time.
 int RunEnd(const std::uint8_t* pMask, int at, int nCount) {
     const std::uint8_t first = pMask[at];
-    while (++at < nCount && (IsPlain(first) ? pMask[at] == first : !IsPlain(pMask[at]))) {}
+    if (!IsPlain(first)) {
+        while (++at < nCount && !IsPlain(pMask[at])) {}
+        return at;
+    }
+    const std::uint64_t same = first * 0x0101010101010101U;
+    std::uint64_t word = same;
+    while (at + 8 <= nCount && (std::memcpy(&word, pMask + at, sizeof word), word == same))
+        at += 8;
+    while (at < nCount && pMask[at] == first)
+        ++at;
     return at;
 }
 
 } // namespace
 
 void CopyRow(std::uint32_t* pTarget, const std::uint8_t* pSource, int nCount) {
-    for (int i = 0; i < nCount; ++i)
+    int i = 0;
+#if defined(__SSE2__)
+    // Sixteen bytes hold four pixels and the four bytes behind them that may be read.
+    const __m128i colors = _mm_set1_epi32(0x00FFFFFF);
+    for (; i + 4 <= nCount; i += 4) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(pSource + i * 3));
+        const __m128i front = _mm_unpacklo_epi32(bytes, _mm_srli_si128(bytes, 3));
+        const __m128i back = _mm_unpacklo_epi32(_mm_srli_si128(bytes, 6), _mm_srli_si128(bytes, 9));
+        const __m128i pixels = _mm_and_si128(_mm_unpacklo_epi64(front, back), colors);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(pTarget + i), pixels);
+    }
+#endif
+    for (; i < nCount; ++i)
         pTarget[i] = PixelAt(pSource + i * 3);
 }
 

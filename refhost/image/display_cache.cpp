@@ -2,6 +2,9 @@
 
 #include <cstring>
 
+#include "buffer/buffer_host.h"
+#include "image/node_host.h"
+
 namespace {
 
 /// A bitmap with its first row at the top; `*ppPixels` are its pixels. Null when none can be made.
@@ -19,6 +22,10 @@ HBITMAP MakeBitmap(int nWidth, int nHeight, std::uint32_t** ppPixels) {
     return hBitmap;
 }
 
+double PixelsOf(const RECT& rect) {
+    return (static_cast<double>(rect.right) - rect.left) * (static_cast<double>(rect.bottom) - rect.top);
+}
+
 } // namespace
 
 CDisplayCache::~CDisplayCache() { Release(); }
@@ -33,6 +40,9 @@ void CDisplayCache::Release() {
     if (m_hSourceDC != nullptr)
         DeleteDC(m_hSourceDC);
     m_target = {};
+    m_page = {};
+    m_source = {};
+    m_stale.Clear();
     m_hDC = m_hSourceDC = nullptr;
     m_hBitmap = nullptr;
     m_hFormer = nullptr;
@@ -52,11 +62,76 @@ bool CDisplayCache::Resize(int nWidth, int nHeight) {
     }
     m_hFormer = SelectObject(m_hDC, m_hBitmap);
     m_target = {pPixels, nWidth, nHeight, nWidth};
+    m_pagePixels.resize(static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight));
+    m_page = {m_pagePixels.data(), nWidth, nHeight, nWidth};
+    m_stale.Add(All());
     return true;
 }
 
+bool CDisplayCache::Source::operator==(const Source& other) const {
+    return pDoc == other.pDoc && hBase == other.hBase && nLocks == other.nLocks && dZoom == other.dZoom &&
+           ptScroll.x == other.ptScroll.x && ptScroll.y == other.ptScroll.y;
+}
+
 void CDisplayCache::Compose(const CImgDoc* pDoc, const ViewMap& map, const RECT& rcPart) {
-    m_composer.Compose(pDoc, map, m_target, rcPart);
+    const RECT rcAll = All();
+    RECT rcCopied;
+    if (IntersectRect(&rcCopied, &rcPart, &rcAll) == FALSE)
+        return;
+    GatherChanges(pDoc, map);
+    ComposeChanged(pDoc, map, rcCopied);
+    const std::size_t nBytes =
+        static_cast<std::size_t>(rcCopied.right - rcCopied.left) * sizeof(std::uint32_t);
+    for (int y = rcCopied.top; y < rcCopied.bottom; ++y)
+        std::memcpy(m_target.Row(y) + rcCopied.left, m_page.Row(y) + rcCopied.left, nBytes);
+}
+
+void CDisplayCache::GatherChanges(const CImgDoc* pDoc, const ViewMap& map) {
+    const Source source{pDoc, pDoc != nullptr ? pDoc->GetBaseImage() : 0, buffer_host::LockCount(), map.dZoom,
+                        map.ptScroll};
+    if (!(source == m_source)) {
+        m_source = source;
+        m_stale.Clear();
+        m_stale.Add(All());
+    }
+    if (pDoc == nullptr)
+        return;
+    CChangedArea& changed = CNodeBookkeeping::Changed(*pDoc);
+    const RECT rcAll = All();
+    for (const RECT& rect : changed.Rects()) {
+        const RECT rcClient = map.RectToClient(rect);
+        const RECT rcNear{-1, -1, rcAll.right + 1, rcAll.bottom + 1};
+        RECT rcStale;
+        if (IntersectRect(&rcStale, &rcClient, &rcNear) == FALSE)
+            continue;
+        InflateRect(&rcStale, 1, 1); // a scaled edge may round into the next pixel
+        if (IntersectRect(&rcStale, &rcStale, &rcAll) != FALSE)
+            m_stale.Add(rcStale);
+    }
+    changed.Clear();
+}
+
+// Stale rectangles may overlap. Where composing each would touch more pixels than their common bounds hold,
+// those are composed once.
+void CDisplayCache::ComposeChanged(const CImgDoc* pDoc, const ViewMap& map, const RECT& rcPart) {
+    RECT rcBounds{0, 0, 0, 0};
+    double dPixels = 0;
+    for (const RECT& stale : m_stale.Rects()) {
+        RECT rcComposed;
+        if (IntersectRect(&rcComposed, &stale, &rcPart) != FALSE)
+            dPixels += PixelsOf(rcComposed);
+        UnionRect(&rcBounds, &rcBounds, &rcComposed);
+    }
+    if (dPixels >= PixelsOf(rcBounds)) {
+        m_composer.Compose(pDoc, map, m_page, rcBounds);
+    } else {
+        for (const RECT& stale : m_stale.Rects()) {
+            RECT rcComposed;
+            if (IntersectRect(&rcComposed, &stale, &rcPart) != FALSE)
+                m_composer.Compose(pDoc, map, m_page, rcComposed);
+        }
+    }
+    m_stale.RemoveWithin(rcPart);
 }
 
 HBITMAP CDisplayCache::CopyOut(const RECT& rect) const {

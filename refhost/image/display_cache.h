@@ -5,10 +5,12 @@
 
 #include <windows.h>
 
+#include "image/changed_area.h"
 #include "image/page_composer.h"
 #include "image/view_host.h"
 
-/// A 32-bit bitmap of the client's size, kept selected in a context of its own.
+/// A 32-bit bitmap of the client's size, kept selected in a context of its own. Beside it stands the page's
+/// picture without marks: only what changed on the page is composed anew, the rest is copied from there.
 class CDisplayCache {
   public:
     CDisplayCache() = default;
@@ -35,7 +37,21 @@ class CDisplayCache {
     std::vector<CImgNode*> m_hits; ///< working memory of hit tests
 
   private:
+    /// What the picture without marks was composed from.
+    struct Source {
+        const CImgDoc* pDoc = nullptr;
+        HBUF32 hBase = 0;
+        std::uint32_t nLocks = 0;
+        double dZoom = 0.0;
+        POINT ptScroll{0, 0};
+
+        bool operator==(const Source& other) const;
+    };
+
     void Release();
+    void GatherChanges(const CImgDoc* pDoc, const ViewMap& map);
+    void ComposeChanged(const CImgDoc* pDoc, const ViewMap& map, const RECT& rcPart);
+    RECT All() const { return {0, 0, m_target.width, m_target.height}; }
 
     PixelTarget m_target;
     HDC m_hDC = nullptr;
@@ -43,4 +59,8 @@ class CDisplayCache {
     HBITMAP m_hBitmap = nullptr;
     HGDIOBJ m_hFormer = nullptr; ///< what stood in the context before the bitmap
     CPageComposer m_composer;
+    std::vector<std::uint32_t> m_pagePixels;
+    PixelTarget m_page;
+    Source m_source;
+    CChangedArea m_stale; ///< client pixels where the picture without marks is out of date
 };

@@ -56,13 +56,13 @@ void ReplaceBuffer(HBUF32& hOwned, HBUF32 hNew) {
 } // namespace
 
 CImgNode::CImgNode(CImgDoc* pDoc) : m_nId(NextId()) {
-    CNodeBookkeeping::CountNode(1);
+    CNodeBookkeeping::Enter(*this);
     CNodeBookkeeping::Register(*this, pDoc);
 }
 
 CImgNode::~CImgNode() {
     CNodeBookkeeping::Unregister(*this);
-    CNodeBookkeeping::CountNode(-1);
+    CNodeBookkeeping::Leave(*this);
     FreeBuffer(m_hImage);
     FreeBuffer(m_tx.hMask);
     FreeBuffer(m_hTransSrcImage);
@@ -169,6 +169,7 @@ int CImgNode::m_fnUpdateBCAndT(int nBrightness, int nContrast, int nTransparency
     m_nBrightness = nBrightness;
     m_nContrast = nContrast;
     m_nTransparency = nTransparency;
+    CNodeBookkeeping::PlaceChanged(*this);
     return 1;
 }
 

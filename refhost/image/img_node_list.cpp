@@ -106,7 +106,9 @@ POSITION CImgNodeList::Find(const CImgNode* pNode) const {
     CImgNode* pSought = const_cast<CImgNode*>(pNode);
     if (m_role == Role::Free)
         return CPtrList::Find(pSought);
-    return pNode != nullptr && pNode->m_pDoc == m_pDoc ? FirstPlace(*pSought) : nullptr;
+    // Whoever kept a pointer to a node that was deleted asks for it here, and is told that it is gone.
+    const bool bOurs = CNodeBookkeeping::IsLive(pNode) && pNode->m_pDoc == m_pDoc;
+    return bOurs ? FirstPlace(*pSought) : nullptr;
 }
 
 bool CImgNodeList::Accepts(CImgNode* pNode) {
@@ -114,6 +116,8 @@ bool CImgNodeList::Accepts(CImgNode* pNode) {
         return false;
     if (m_role == Role::Free)
         return true;
+    if (!CNodeBookkeeping::IsLive(pNode))
+        return false;
     // A node made without a document belongs to the one whose list takes it.
     if (pNode->m_pDoc == nullptr)
         CNodeBookkeeping::Register(*pNode, m_pDoc);

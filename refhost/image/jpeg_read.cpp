@@ -42,8 +42,8 @@ void OnMessage(j_common_ptr pInfo, int nLevel) {
 bool Prepare(Decoder& decoder) {
     const unsigned nWidth = decoder.info.image_width;
     const unsigned nHeight = decoder.info.image_height;
-    if (nWidth > picture_codec::MaxSide || nHeight > picture_codec::MaxSide) {
-        decoder.error = picture_codec::TooLarge;
+    if (const char* pszProblem = picture_codec::SizeProblem(nWidth, nHeight)) {
+        decoder.error = pszProblem;
         return false;
     }
     if (decoder.info.jpeg_color_space == JCS_CMYK || decoder.info.jpeg_color_space == JCS_YCCK) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/img_node.h"
+#include "image/node_host.h"
 #include "image/picture_node.h"
 
 namespace {
@@ -74,6 +75,7 @@ void CImgNode::m_fnAdjustImageNodeBuf(int /*nReserved*/, int /*nReserved2*/) {
     if (bOriginal)
         buf32Free(m_hImage);
     m_hImage = shown.image.Release();
+    CNodeBookkeeping::PlaceChanged(*this);
     if (!bMaskGoesAlong)
         return;
     if (bOriginal)

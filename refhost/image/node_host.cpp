@@ -2,13 +2,18 @@
 
 #include <algorithm>
 #include <limits>
+#include <unordered_set>
 
 #include "buffer/buffer_host.h"
 #include "image/spatial_index.h"
 
 namespace {
 
-std::size_t g_nLiveNodes = 0;
+/// A table that nodes freed at the very end of the process still find.
+std::unordered_set<const CImgNode*>& LiveNodeTable() {
+    static auto* pTable = new std::unordered_set<const CImgNode*>;
+    return *pTable;
+}
 
 LONG Saturated(std::int64_t nValue) {
     return static_cast<LONG>(
@@ -23,7 +28,7 @@ bool CopyBuffer(HBUF32 hFrom, HBUF32& hTo) {
 
 } // namespace
 
-std::size_t CNodeBookkeeping::LiveNodes() { return g_nLiveNodes; }
+std::size_t CNodeBookkeeping::LiveNodes() { return LiveNodeTable().size(); }
 
 std::size_t CNodeBookkeeping::OffPage(const CImgDoc& doc) {
     return static_cast<std::size_t>(std::count_if(doc.m_nodeSet.begin(), doc.m_nodeSet.end(),
@@ -69,6 +74,8 @@ void CNodeBookkeeping::PlaceChanged(CImgNode& node) {
         node.m_pDoc->m_pIndex->Update(node, NodeRect(node));
 }
 
+CChangedArea& CNodeBookkeeping::Changed(const CImgDoc& doc) { return doc.m_pIndex->Changed(); }
+
 void CNodeBookkeeping::Register(CImgNode& node, CImgDoc* pDoc) {
     if (pDoc == nullptr)
         return;
@@ -90,7 +97,11 @@ void CNodeBookkeeping::Unregister(CImgNode& node) {
     node.m_pDoc = nullptr;
 }
 
-void CNodeBookkeeping::CountNode(int nChange) { g_nLiveNodes += static_cast<std::size_t>(nChange); }
+void CNodeBookkeeping::Enter(const CImgNode& node) { LiveNodeTable().insert(&node); }
+
+void CNodeBookkeeping::Leave(const CImgNode& node) { LiveNodeTable().erase(&node); }
+
+bool CNodeBookkeeping::IsLive(const CImgNode* pNode) { return LiveNodeTable().contains(pNode); }
 
 bool CNodeBookkeeping::CopyFields(const CImgNode& from, CImgNode& to) {
     to.m_nType = from.m_nType;

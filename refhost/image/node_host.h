@@ -8,6 +8,7 @@
 #include "host/img_doc.h"
 #include "host/img_node.h"
 #include "host/img_node_list.h"
+#include "image/changed_area.h"
 
 /// The road to what nodes and documents keep private. None of it is recorded in the trace.
 struct CNodeBookkeeping {
@@ -33,10 +34,15 @@ struct CNodeBookkeeping {
     static CRect NodeRect(const CImgNode& node);
     /// Brings the spatial index up to date after the transform block was written.
     static void PlaceChanged(CImgNode& node);
+    /// Where the page's nodes came, went or changed, in document units; whoever composes the page empties it.
+    static CChangedArea& Changed(const CImgDoc& doc);
     static std::int64_t StackKey(const CImgNode& node) { return node.m_nStackKey; }
 
-    /// A node was made (1) or destroyed (-1).
-    static void CountNode(int nChange);
+    /// A node was made, or is being destroyed.
+    static void Enter(const CImgNode& node);
+    static void Leave(const CImgNode& node);
+    /// Whether the pointer is a living node's; it may be a dead one's.
+    static bool IsLive(const CImgNode* pNode);
     /// Makes a node that belongs to no document the document's; a null document leaves it alone.
     static void Register(CImgNode& node, CImgDoc* pDoc);
     /// Takes the node out of the document's lists, index and set.

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr int MaxSide = 32767;
+constexpr double MaxPixels = 1 << 27;
 
 /// The scaled side, or 0 when it is out of range.
 int Side(int nLength, double dScale) {
@@ -20,7 +21,7 @@ int Side(int nLength, double dScale) {
 bool RenderPage(const CImgDoc& doc, double dScale, RenderedPage& page) {
     const int nWidth = Side(doc.PageWidth(), dScale);
     const int nHeight = Side(doc.PageHeight(), dScale);
-    if (nWidth == 0 || nHeight == 0)
+    if (nWidth == 0 || nHeight == 0 || static_cast<double>(nWidth) * nHeight > MaxPixels)
         return false;
     try {
         page.pixels.resize(static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight));

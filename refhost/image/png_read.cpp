@@ -54,8 +54,8 @@ bool MakeRows(Decoder& decoder) {
 bool ReadSize(Decoder& decoder) {
     const png_uint_32 nWidth = png_get_image_width(decoder.pPng, decoder.pInfo);
     const png_uint_32 nHeight = png_get_image_height(decoder.pPng, decoder.pInfo);
-    if (nWidth > picture_codec::MaxSide || nHeight > picture_codec::MaxSide) {
-        decoder.error = picture_codec::TooLarge;
+    if (const char* pszProblem = picture_codec::SizeProblem(nWidth, nHeight)) {
+        decoder.error = pszProblem;
         return false;
     }
     decoder.nWidth = static_cast<int>(nWidth);

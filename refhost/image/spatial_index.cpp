@@ -86,12 +86,14 @@ void CSpatialIndex::Insert(CImgNode& node, const CRect& rect) {
         pFirst->m_pPrevInCell = &node;
     node.m_rcIndexed = rect;
     node.m_bIndexed = true;
+    m_changed.Add(rect);
 }
 
 void CSpatialIndex::Remove(CImgNode& node) {
     if (!node.m_bIndexed)
         return;
     node.m_bIndexed = false;
+    m_changed.Add(node.m_rcIndexed);
     if (node.m_pNextInCell != nullptr)
         node.m_pNextInCell->m_pPrevInCell = node.m_pPrevInCell;
     if (node.m_pPrevInCell != nullptr) {
@@ -111,6 +113,8 @@ void CSpatialIndex::Update(CImgNode& node, const CRect& rect) {
         return;
     const int nLevel = LevelOf(rect);
     if (nLevel == LevelOf(node.m_rcIndexed) && KeyOf(rect, nLevel) == KeyOf(node.m_rcIndexed, nLevel)) {
+        m_changed.Add(node.m_rcIndexed);
+        m_changed.Add(rect);
         node.m_rcIndexed = rect;
         return;
     }

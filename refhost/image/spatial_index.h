@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/img_node.h"
+#include "image/changed_area.h"
 
 /// A rectangle in document units, right and bottom exclusive, wide enough for every sum of 32-bit
 /// coordinates.
@@ -26,11 +27,14 @@ class CSpatialIndex {
     void Insert(CImgNode& node, const CRect& rect);
     /// Does nothing for a node that is not indexed.
     void Remove(CImgNode& node);
-    /// Moves an indexed node to its new place; any other is left alone.
+    /// Moves an indexed node to its new place, also when only its look has changed; any other is left alone.
     void Update(CImgNode& node, const CRect& rect);
     /// Replaces `nodes` by the indexed nodes that have a part in the area, front to back. A node or area
     /// without extent has no part in anything.
     void Query(const IndexArea& area, std::vector<CImgNode*>& nodes) const;
+
+    /// Where indexed nodes came, went or changed, in document units; whoever composes the page empties it.
+    CChangedArea& Changed() { return m_changed; }
 
   private:
     struct Cell {
@@ -68,4 +72,5 @@ class CSpatialIndex {
     void QueryLevel(int nLevel, const IndexArea& area, std::vector<CImgNode*>& nodes) const;
 
     std::array<CCellTable, LevelCount> m_levels;
+    CChangedArea m_changed;
 };

@@ -151,11 +151,14 @@ bool CViewHost::SetAll(CVorView& view, int nWidth, int nHeight, double dZoom, co
         RecomposeAll(view);
         return true;
     }
+    // The cache first: so the tool's answer to it is not silenced with the window's messages.
+    FitCache(view, nWidth, nHeight);
     if (view.m_hWnd != nullptr) {
         const trace::CQuietScope quiet;
         view.SetWindowPos(nullptr, 0, 0, nWidth, nHeight, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        view.InvalidateRect(nullptr, FALSE);
     }
-    return FitCache(view, nWidth, nHeight);
+    return ClientSize(view) == CSize(nWidth, nHeight);
 }
 
 bool CViewHost::FitCache(CVorView& view, int nWidth, int nHeight) {

@@ -125,8 +125,8 @@ HBUF32 CToolCore::m_fnMakeSoftMask(HBUF32 hMask, int nSoftness, CTxParam& block,
     ptShadow = ptBase + offset;
     HBUF32 hSoft = 0;
     if (nSoftness != NoSoftMask) {
-        block.nX += offset.cx;
-        block.nY += offset.cy;
+        block.nX = Saturated(static_cast<long long>(block.nX) + offset.cx);
+        block.nY = Saturated(static_cast<long long>(block.nY) + offset.cy);
         block.hMask = hMask;
         if (!sel32SoftEdgeMakeMask(&block, 0, nSoftness, 0, 0, 0, 0)) {
             block.hMask = 0;

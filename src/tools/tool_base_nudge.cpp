@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 
+#include "ops/saturate.h"
 #include "tools/tool_base.h"
 #include "undo/recorder.h"
 
@@ -33,15 +34,15 @@ const NudgeKey* FindNudgeKey(UINT nChar) {
 }
 
 // One axis of the way back into the view; where both rules hold, the later one wins.
-int WayBack(int nNodeNear, int nNodeFar, int nViewNear, int nViewFar) {
-    int nDelta = 0;
+int WayBack(long long nNodeNear, long long nNodeFar, long long nViewNear, long long nViewFar) {
+    long long nDelta = 0;
     if (nNodeNear > nViewFar) {
         nDelta = nViewFar - nNodeNear;
     }
     if (nNodeFar < nViewNear) {
         nDelta = nViewNear - nNodeFar;
     }
-    return nDelta;
+    return Saturated(nDelta);
 }
 
 } // namespace

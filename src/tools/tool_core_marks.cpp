@@ -1,6 +1,7 @@
 // Marks and hit tests of the core tool.
 #include "ops/drawing.h"
 #include "ops/excluded_node.h"
+#include "ops/saturate.h"
 #include "tools/tool_core.h"
 
 namespace {
@@ -101,10 +102,12 @@ int CToolCore::InvalidateStrips(const CRect& rc, int nWidth) {
     if (!canvas) {
         return 0;
     }
-    CRect strips[] = {CRect(rc.left, rc.top, rc.right, rc.top + nWidth),
-                      CRect(rc.right - nWidth, rc.top, rc.right, rc.bottom),
-                      CRect(rc.left, rc.bottom - nWidth, rc.right, rc.bottom),
-                      CRect(rc.left, rc.top, rc.left + nWidth, rc.bottom)};
+    const int nTop = Saturated(static_cast<long long>(rc.top) + nWidth);
+    const int nRight = Saturated(static_cast<long long>(rc.right) - nWidth);
+    const int nBottom = Saturated(static_cast<long long>(rc.bottom) - nWidth);
+    const int nLeft = Saturated(static_cast<long long>(rc.left) + nWidth);
+    CRect strips[] = {CRect(rc.left, rc.top, rc.right, nTop), CRect(nRight, rc.top, rc.right, rc.bottom),
+                      CRect(rc.left, nBottom, rc.right, rc.bottom), CRect(rc.left, rc.top, nLeft, rc.bottom)};
     for (CRect& rcStrip : strips) {
         canvas.View().m_fnFlushCacheRect(rcStrip);
     }

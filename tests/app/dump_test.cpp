@@ -114,6 +114,31 @@ TEST(Dump, ToolTellsClassKindPageAndExcludedNode) {
     EXPECT_EQ(JsonText(json), R"({"class":"CTextComboTool","kind":"edit:13","panelKind":12,"excluded":"A"})");
 }
 
+TEST(Dump, FrameIsMadeBehindItsObject) {
+    CStage stage;
+    CImgNode* pObject = stage.AddPlaceholder("P", 10, 20, 30, 40);
+
+    EXPECT_LT(pObject->m_nId, stage.Node("P.frame")->m_nId);
+}
+
+TEST(Dump, TraceStillNamesTheNodesOfTheFormerPage) {
+    const Outcome outcome =
+        RunLines("picture A #FF0000 10 10 40 40\ntool CSelectTool\ndump trace\nop AddToSelection A\n"
+                 "page 100 100\npicture A #FF0000 10 10 40 40\nexpect trace[0].op == selection.AddTail\n"
+                 "expect trace[0].args == [A]\n");
+
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+}
+
+TEST(Dump, CallsStandUnderTheKindThatTheToolSearched) {
+    const Outcome outcome =
+        RunLines("picture A #FF0000 10 10 40 40\npanel 7+12\ntool CSelectTool\ndump calls\nop host-reset\n"
+                 "expect calls[0].kind == 1\nexpect calls[0].interface == "
+                 "{461E83E3-1A84-4B93-89FB-7C973F28275A}\nclick 30 30\nexpect calls[1].kind == 7\n");
+
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+}
+
 TEST(Dump, ResourcesCountWhatLives) {
     CStage stage;
     Json before;

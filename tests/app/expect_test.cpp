@@ -110,6 +110,23 @@ TEST(Expect, LastIsTheLastPrintedResult) {
     EXPECT_EQ(outcome.status, 0) << outcome.err;
 }
 
+TEST(Expect, NoneAnswersForANullNodeAndForNoResult) {
+    const Outcome outcome = RunLines("expect last == none\npicture A #FF0000 10 10 40 40\ntool CSelectTool\n"
+                                     "service duplicate none 1\nexpect last.copy == none\n"
+                                     "expect last.error == 1\n");
+
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+}
+
+TEST(Expect, QuotedNamesHaveTheEscapesOfStrings) {
+    const Outcome outcome =
+        RunLines("picture \"a\\\"] b\" #FF0000 1 0 40 40\npicture \"\\xE9\" #FF0000 2 0 40 40\n"
+                 "expect page[\"a\\\"] b\"].rect[0] == 1\n"
+                 "expect page[\"\\xE9\"].rect[0] == 2\nexpect page.\xE9.rect[0] == 2\n");
+
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+}
+
 TEST(Expect, TraceStaysForTheNextLook) {
     const Outcome outcome =
         RunLines("picture A #FF0000 10 10 40 40\ntool CSelectTool\ndump calls\nop NotifyObjectsChanged\n"

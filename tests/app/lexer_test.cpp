@@ -32,6 +32,8 @@ INSTANTIATE_TEST_SUITE_P(
                     KindRow{"\"a b\"", TokenKind::String, "a b"}, KindRow{"\"\"", TokenKind::String, ""},
                     KindRow{"[A B]", TokenKind::List, "[A B]"},
                     KindRow{"page[\"a b\"].rect", TokenKind::Word, "page[\"a b\"].rect"},
+                    KindRow{R"(page["a\" #b"].rect)", TokenKind::Word, R"(page["a\" #b"].rect)"},
+                    KindRow{"6\"", TokenKind::Word, "6\""},
                     KindRow{"{0e1c6dc7-1dde-4881-8aee-e495db635354}", TokenKind::Guid,
                             "{0E1C6DC7-1DDE-4881-8AEE-E495DB635354}"}));
 

@@ -86,6 +86,16 @@ TEST(StageNames, CopiesCountOnFromTheFirstOfTheFamily) {
     EXPECT_EQ(stage.Node("A#3"), pThird);
 }
 
+TEST(StageNames, CopyTakesNobodysName) {
+    CStage stage;
+    CImgNode* pFirst = stage.AddPicture("A", RGB(1, 2, 3), 0, 0, 20, 20);
+    stage.AddPicture("A#2", RGB(1, 2, 3), 0, 0, 20, 20);
+
+    stage.Desk().Document()->GetObjList()->AddHead(pFirst->Duplicate());
+
+    EXPECT_EQ(stage.PageNames(), (Names{"A#3", "A#2", "A"}));
+}
+
 TEST(StageNames, OfNodesThatAreGoneAreRemembered) {
     CStage stage;
     CImgNode* pNode = stage.AddPicture("A", RGB(1, 2, 3), 0, 0, 20, 20);
@@ -116,6 +126,17 @@ TEST(StagePage, NewPageClearsNodesNamesAndUndo) {
     CRect rcClient;
     stage.Desk().View()->GetClientRect(&rcClient);
     EXPECT_EQ(rcClient, CRect(0, 0, 150, 75));
+}
+
+TEST(StagePage, StandsOnADarkGreyImageOfItsOwnSize) {
+    CStage stage;
+    stage.NewPage(30, 20, 2.0);
+    const buffer_host::View base = buffer_host::Look(stage.Desk().Document()->GetBaseImage());
+
+    EXPECT_EQ(CSize(base.width, base.height), CSize(30, 20));
+    ASSERT_NE(base.pixels, nullptr);
+    EXPECT_EQ(base.pixels[0], 0x50);
+    EXPECT_EQ(base.pixels[30 * 20 * 3 - 1], 0x50);
 }
 
 TEST(StagePage, OffsetIsAddedToAPicturesPosition) {
@@ -324,6 +345,16 @@ TEST(StagePage, MarksReturnAfterTheViewWasComposedAfresh) {
 
     EXPECT_EQ(stage.Pixel(3, 8), crHandle);
     EXPECT_EQ(stage.Pixel(25, 30), RGB(255, 0, 0));
+
+    for (const auto& Compose :
+         {+[](CStage& s) { s.SetViewSize(300, 200); }, +[](CStage& s) { s.SetBaseColor(RGB(1, 2, 3)); }}) {
+        stage.Trace();
+        Compose(stage);
+        EXPECT_EQ(stage.Pixel(3, 8), crHandle);
+        const std::vector<trace::Row> rows = stage.Trace();
+        ASSERT_EQ(rows.size(), 2U) << "showing the marks stands in the record";
+        EXPECT_EQ(rows[0].op, "GetDisplayCache");
+    }
 }
 
 } // namespace

@@ -60,19 +60,9 @@ void ExpectMainPlaces(const std::vector<Operation>& operations) {
 
 // The compiler repeats an interface's operation in the table of the class that first implements it. Such
 // places do not count among the main operations.
-std::set<std::ptrdiff_t> InterfacePlaces() {
-    using L = CToolListener;
+std::set<std::ptrdiff_t> ObjectOpsPlaces() {
     using C = CToolCore;
     return {
-        PlaceOf(&L::SetExcludedNode),
-        PlaceOf(&L::GetExcludedNode),
-        PlaceOf(&L::DuplicateNode),
-        PlaceOf(&L::IsPointOnSelection),
-        PlaceOf(&L::DuplicateNodeScaled),
-        PlaceOf(&L::CreateNodeShadow),
-        PlaceOf(&L::BlendBaseImage),
-        PlaceOf(&C::GetToolClassId),
-        PlaceOf(&C::GetToolGroupId),
         PlaceOf(&C::OnToolActivate),
         PlaceOf(&C::ClearSelection),
         PlaceOf(&C::DeselectAll),
@@ -111,18 +101,23 @@ std::set<std::ptrdiff_t> InterfacePlaces() {
         PlaceOf(&C::GetNodeMarkAreaOf),
         PlaceOf(&C::CanRunCommand),
         PlaceOf(&C::MakePlaceholderFrame),
-        PlaceOf(&C::OnLButtonDblClk),
-        PlaceOf(&C::OnLButtonDown),
-        PlaceOf(&C::OnLButtonUp),
-        PlaceOf(&C::OnMouseMove),
-        PlaceOf(&C::OnRButtonDown),
-        PlaceOf(&C::Reserved6),
-        PlaceOf(&C::Reserved7),
-        PlaceOf(&C::OnKeyDown),
-        PlaceOf(&C::OnKeyUp),
-        PlaceOf(&C::Reserved10),
-        PlaceOf(&C::MergeIntoBaseImage),
     };
+}
+
+std::set<std::ptrdiff_t> InterfacePlaces() {
+    using L = CToolListener;
+    using C = CToolCore;
+    std::set<std::ptrdiff_t> places = {
+        PlaceOf(&L::SetExcludedNode),    PlaceOf(&L::GetExcludedNode),     PlaceOf(&L::DuplicateNode),
+        PlaceOf(&L::IsPointOnSelection), PlaceOf(&L::DuplicateNodeScaled), PlaceOf(&L::CreateNodeShadow),
+        PlaceOf(&L::BlendBaseImage),     PlaceOf(&C::GetToolClassId),      PlaceOf(&C::GetToolGroupId),
+        PlaceOf(&C::OnLButtonDblClk),    PlaceOf(&C::OnLButtonDown),       PlaceOf(&C::OnLButtonUp),
+        PlaceOf(&C::OnMouseMove),        PlaceOf(&C::OnRButtonDown),       PlaceOf(&C::Reserved6),
+        PlaceOf(&C::Reserved7),          PlaceOf(&C::OnKeyDown),           PlaceOf(&C::OnKeyUp),
+        PlaceOf(&C::Reserved10),         PlaceOf(&C::MergeIntoBaseImage),
+    };
+    places.merge(ObjectOpsPlaces());
+    return places;
 }
 
 // The number of a main operation that stands behind the interfaces' repeated places.

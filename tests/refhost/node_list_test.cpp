@@ -36,18 +36,6 @@ std::string OpsOf(const std::vector<trace::Row>& rows) {
 
 } // namespace
 
-TEST_F(NodeList, FindsANodesPlaceInEachList) {
-    CImgNode* pA = Box();
-    CImgNode* pB = Box();
-    const POSITION inSelection = Selection().AddTail(pA);
-
-    EXPECT_EQ(pA, Objects().GetAt(Objects().Find(pA)));
-    EXPECT_EQ(pB, Objects().GetAt(Objects().Find(pB)));
-    EXPECT_EQ(inSelection, Selection().Find(pA));
-    EXPECT_EQ(nullptr, Selection().Find(pB));
-    EXPECT_EQ(nullptr, Selection().Find(nullptr));
-}
-
 TEST_F(NodeList, ANodeSelectedTwiceIsFoundAtItsFirstPlace) {
     CImgNode* pA = Box();
     CImgNode* pB = Box();
@@ -62,8 +50,9 @@ TEST_F(NodeList, ANodeSelectedTwiceIsFoundAtItsFirstPlace) {
     EXPECT_EQ(head, Selection().Find(pA));
     Selection().RemoveAt(last);
     EXPECT_EQ(head, Selection().Find(pA));
-    Selection().RemoveAt(head);
+    Selection().RemoveAll();
     EXPECT_EQ(nullptr, Selection().Find(pA));
+    EXPECT_EQ(pA, Objects().GetAt(Objects().Find(pA)));
 }
 
 TEST_F(NodeList, ADestroyedNodeLeavesBothListsAtEveryPlace) {
@@ -78,29 +67,18 @@ TEST_F(NodeList, ADestroyedNodeLeavesBothListsAtEveryPlace) {
     EXPECT_EQ((std::vector<CImgNode*>{pB}), NodesOf(Objects()));
 }
 
-TEST_F(NodeList, RemovingHeadsEmptiesItAndThenAnswersNull) {
+TEST_F(NodeList, EndsOfAnEmptyListAnswerNullAndAListOfOnesOwnFreesNothing) {
     CImgNode* pA = Box();
-    CImgNode* pB = Box();
-    Selection().AddTail(pA);
-    Selection().AddTail(pB);
+    CImgNodeList list(&doc);
+    list.AddTail(pA);
+    list.AddTail(pA);
 
-    EXPECT_EQ(pA, Selection().RemoveHead());
-    EXPECT_EQ(pB, Selection().RemoveTail());
-    EXPECT_EQ(nullptr, Selection().RemoveHead());
-    EXPECT_EQ(nullptr, Selection().RemoveTail());
-    EXPECT_EQ(nullptr, Selection().Find(pA));
-}
-
-TEST_F(NodeList, RemoveAllForgetsEveryPlace) {
-    CImgNode* pA = Box();
-    Selection().AddTail(pA);
-    Selection().AddTail(pA);
-
-    Selection().RemoveAll();
-    Selection().AddTail(pA);
-    Selection().RemoveHead();
-
-    EXPECT_EQ(nullptr, Selection().Find(pA));
+    EXPECT_EQ(list.GetHeadPosition(), list.Find(pA));
+    EXPECT_EQ(pA, list.RemoveHead());
+    EXPECT_EQ(pA, list.RemoveTail());
+    EXPECT_EQ(nullptr, list.RemoveHead());
+    EXPECT_EQ(nullptr, list.RemoveTail());
+    EXPECT_NE(nullptr, Objects().Find(pA));
 }
 
 TEST_F(NodeList, NullAndForeignNodesAreRefused) {
@@ -121,18 +99,6 @@ TEST_F(NodeList, ANodeMadeWithoutADocumentIsTakenOver) {
         EXPECT_EQ(nBefore + 1, CNodeBookkeeping::LiveNodes());
     }
     EXPECT_EQ(nBefore, CNodeBookkeeping::LiveNodes());
-}
-
-TEST_F(NodeList, AFreeStandingListHoldsAnythingAndOwnsNothing) {
-    CImgNode* pA = Box();
-    CImgNodeList list(&doc);
-    list.AddTail(pA);
-    list.AddTail(pA);
-
-    EXPECT_EQ(list.GetHeadPosition(), list.Find(pA));
-    EXPECT_EQ(2, list.GetCount());
-    list.RemoveAll();
-    EXPECT_NE(nullptr, Objects().Find(pA));
 }
 
 TEST_F(NodeList, KeysAscendAfterThousandsOfInsertionsAtOnePlace) {

@@ -26,10 +26,16 @@ class Trace : public ::testing::Test {
 
 TEST_F(Trace, HoldsRowsInOrderUntilTheyAreTaken) {
     trace::Call("doc", "First", {1LL});
+    {
+        const trace::CQuietScope outer;
+        { const trace::CQuietScope inner; }
+        trace::Call("doc", "Hidden");
+    }
     trace::BusCall("edit:12", Iface, 3, {2.5, "text"});
+    trace::TurnOn(false);
+    trace::Call("doc", "AfterTheEnd");
 
     const std::vector<trace::Row> rows = trace::Take();
-
     ASSERT_EQ(2u, rows.size());
     EXPECT_EQ("First", rows[0].op);
     EXPECT_EQ("", rows[0].iface);
@@ -37,17 +43,7 @@ TEST_F(Trace, HoldsRowsInOrderUntilTheyAreTaken) {
     EXPECT_EQ("3", rows[1].op);
     EXPECT_EQ("text", std::get<std::string>(rows[1].args[1]));
     EXPECT_TRUE(trace::Take().empty());
-}
-
-TEST_F(Trace, QuietScopesNest) {
-    {
-        const trace::CQuietScope outer;
-        { const trace::CQuietScope inner; }
-        EXPECT_FALSE(trace::IsOn());
-        trace::Call("doc", "Hidden");
-    }
-    EXPECT_TRUE(trace::IsOn());
-    EXPECT_TRUE(trace::Take().empty());
+    EXPECT_EQ(nullptr, platform::GetObserver());
 }
 
 TEST_F(Trace, ANodeIsKeptByItsIdAndNoNodeIsZero) {
@@ -82,12 +78,4 @@ TEST_F(Trace, WindowsAndTheWaitCursorReportThroughTheObserver) {
     EXPECT_EQ("cursor", rows[2].on);
     EXPECT_EQ("BeginWaitCursor", rows[2].op);
     EXPECT_EQ("EndWaitCursor", rows[3].op);
-}
-
-TEST(TraceOff, RecordsNothingAndObservesNothing) {
-    trace::TurnOn(false);
-    trace::Call("doc", "Op");
-
-    EXPECT_TRUE(trace::Take().empty());
-    EXPECT_EQ(nullptr, platform::GetObserver());
 }

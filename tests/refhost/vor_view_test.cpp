@@ -86,12 +86,14 @@ TEST_F(VorView, ConversionsRoundHalvesAwayFromZeroAfterTheScroll) {
     EXPECT_EQ(CPoint(9, -1), ToDoc(-1, -1)); // -0.5
 }
 
-TEST_F(VorView, ConversionsStopAtTheLimitsOf32Bits) {
+TEST_F(VorView, ConversionsStopAtTheLimitsOf32BitsAndABadZoomIsRefused) {
     CViewHost::SetAll(view, 8, 6, 4.0, CPoint(0, 0));
     EXPECT_EQ(CPoint(INT_MAX, INT_MIN), ToClient(1000000000, -1000000000));
-
     CViewHost::SetAll(view, 8, 6, 1.0, CPoint(INT_MIN, INT_MAX));
     EXPECT_EQ(CPoint(INT_MAX, INT_MIN), ToClient(5, -5));
+
+    for (const double dZoom : {0.0, -1.0, HUGE_VAL})
+        EXPECT_FALSE(CViewHost::SetZoom(view, dZoom));
 }
 
 TEST_F(VorView, ARectangleConvertsByItsCorners) {
@@ -102,12 +104,6 @@ TEST_F(VorView, ARectangleConvertsByItsCorners) {
     EXPECT_EQ(CRect(1, 1, 2, 3), rect);
     view.ViewRectToDoc(CRect(1, 2, 3, 4), rect);
     EXPECT_EQ(CRect(2, 4, 6, 8), rect);
-}
-
-TEST_F(VorView, ABadZoomIsRefused) {
-    for (const double dZoom : {0.0, -1.0, HUGE_VAL})
-        EXPECT_FALSE(CViewHost::SetZoom(view, dZoom));
-    EXPECT_EQ(1.0, view.m_dZoom);
 }
 
 TEST_F(VorView, AFlushShowsTheDocumentInItsRectangleOnly) {
@@ -122,30 +118,23 @@ TEST_F(VorView, AFlushShowsTheDocumentInItsRectangleOnly) {
     EXPECT_EQ(0x505050u, Cached(2, 3));
 }
 
-TEST_F(VorView, ACacheCopyIsClippedAndIndependent) {
+TEST_F(VorView, ACacheCopyIsClippedAndThereIsNoneOfNothing) {
     AddPicture(doc, Image(2, 1, {0x112233, 0x445566}), 0, 6, 0);
     Flush(CRect(-100, -100, 100, 100));
     CRect rect(6, -2, 20, 1);
+    CRect outside(8, 0, 20, 6);
 
     const HBITMAP hBitmap = view.m_fnGetDisplayCache(rect);
 
     ASSERT_NE(nullptr, hBitmap);
     BITMAP bitmap;
     GetObjectA(hBitmap, sizeof bitmap, &bitmap);
-    EXPECT_EQ(2, bitmap.bmWidth);
-    EXPECT_EQ(1, bitmap.bmHeight);
-    EXPECT_EQ(RGB(0x11, 0x22, 0x33), PixelOf(hBitmap, 0, 0));
+    EXPECT_EQ(CSize(2, 1), CSize(bitmap.bmWidth, bitmap.bmHeight));
     EXPECT_EQ(RGB(0x44, 0x55, 0x66), PixelOf(hBitmap, 1, 0));
     DeleteObject(hBitmap);
-}
-
-TEST_F(VorView, NoCopyOfNothingAndNoneWithoutMemory) {
-    CRect outside(8, 0, 20, 6);
-    CRect inside(0, 0, 2, 2);
     EXPECT_EQ(nullptr, view.m_fnGetDisplayCache(outside));
-
     const CFaultScope fault("bitmap");
-    EXPECT_EQ(nullptr, view.m_fnGetDisplayCache(inside));
+    EXPECT_EQ(nullptr, view.m_fnGetDisplayCache(rect));
 }
 
 TEST_F(VorView, MarksDrawnOnACopyComeBackIntoTheCache) {
@@ -174,6 +163,9 @@ TEST_F(VorView, TheTopmostNodeWhoseMaskHoldsThePointIsHit) {
     EXPECT_EQ(pFront, Hit(0, 0));
     EXPECT_EQ(pBack, Hit(1, 0));
     EXPECT_EQ(nullptr, Hit(5, 0));
+    CViewHost::SetAll(view, 8, 6, 2.0, CPoint(-1, -1));
+    EXPECT_EQ(pFront, Hit(2, 2));
+    EXPECT_EQ(nullptr, Hit(9, 2)); // 4.5 rounds to 5, and 5 - 1 is outside
 }
 
 TEST_F(VorView, TheFirstSelectedOutlineWithItsEdgeIsFound) {
@@ -186,15 +178,6 @@ TEST_F(VorView, TheFirstSelectedOutlineWithItsEdgeIsFound) {
     EXPECT_EQ(nullptr, Outline(5, 4));
     doc.GetActList()->RemoveHead();
     EXPECT_EQ(pFront, Outline(1, 1));
-}
-
-TEST_F(VorView, HitsFollowZoomAndScroll) {
-    CImgNode* pNode = AddBox(doc, CRect(10, 10, 12, 12));
-    CViewHost::SetAll(view, 8, 6, 2.0, CPoint(9, 9));
-
-    EXPECT_EQ(nullptr, Hit(0, 2));
-    EXPECT_EQ(pNode, Hit(2, 2));
-    EXPECT_EQ(nullptr, Hit(5, 2)); // 2.5 rounds to 3, and 9 + 3 is outside
 }
 
 TEST_F(VorView, ResizeZoomAndScrollRecomposeAndThenTellTheHost) {
@@ -232,63 +215,30 @@ TEST_F(VorView, AViewWithoutACacheShowsNothingAndSurvives) {
     EXPECT_EQ(0x505050u, Cached(19, 9));
 }
 
-TEST_F(VorView, RecordsTheModulesCallsInOrder) {
-    CRect rect(1, 2, 3, 4);
-    trace::TurnOn(true);
-    view.m_fnFlushCacheRect(rect);
-    view.RepaintViewRect(rect, 1);
-    {
-        const trace::CQuietScope quiet;
-        view.m_fnFlushCacheRect(rect);
-    }
-    trace::TurnOn(false);
-
-    const std::vector<trace::Row> rows = trace::Take();
-    ASSERT_EQ(2u, rows.size());
-    EXPECT_EQ("FlushCacheRect", rows[0].op);
-    EXPECT_EQ("RepaintViewRect", rows[1].op);
-    EXPECT_EQ(4, std::get<RECT>(rows[1].args[0]).bottom);
-    EXPECT_EQ(1, std::get<long long>(rows[1].args[1]));
-}
-
-TEST(VorViewWindow, ShowsTheCacheWhenRepaintedAndNotBefore) {
+TEST(VorViewWindow, ShowsTheCacheOfItsSizeWhenRepaintedAndNotBefore) {
     CVorDoc doc(8, 6);
     CVorView* pView = new CVorView; // goes with its window
     CCreateContext context;
     context.m_pCurrentDoc = &doc;
     ASSERT_TRUE(pView->CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, 0, 0, 8, 6, nullptr,
                                 nullptr, &context));
-    CViewHost::SetAll(*pView, 8, 6, 1.0, CPoint(0, 0));
+    pView->MoveWindow(0, 0, 30, 20);
+    EXPECT_EQ(CSize(30, 20), CViewHost::ClientSize(*pView));
+    CRect rect;
+    EXPECT_TRUE(CViewHost::SetClientSize(*pView, 12, 11));
+    pView->GetClientRect(&rect);
+    EXPECT_EQ(CRect(0, 0, 12, 11), rect);
+
     pView->UpdateWindow();
     platform::Surface surface;
     ASSERT_TRUE(platform::LockSurface(pView->m_hWnd, &surface));
     AddPicture(doc, Solid(0xFF0000, 2, 2), 0, 1, 1);
-    CRect rect(1, 1, 2, 2);
-
+    rect = CRect(1, 1, 2, 2);
     pView->m_fnFlushCacheRect(rect);
     EXPECT_EQ(0x505050u, surface.pixels[surface.stride + 1]);
     pView->RepaintViewRect(rect, 1);
 
     EXPECT_EQ(0xFF0000u, surface.pixels[surface.stride + 1]);
     EXPECT_EQ(0x505050u, surface.pixels[surface.stride + 2]);
-    pView->DestroyWindow();
-}
-
-TEST(VorViewWindow, AWindowOfAnotherSizeHasACacheOfThatSize) {
-    CVorDoc doc(8, 6);
-    CVorView* pView = new CVorView;
-    CCreateContext context;
-    context.m_pCurrentDoc = &doc;
-    ASSERT_TRUE(pView->CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, 0, 0, 8, 6, nullptr,
-                                nullptr, &context));
-
-    pView->MoveWindow(0, 0, 30, 20);
-    EXPECT_EQ(CSize(30, 20), CViewHost::ClientSize(*pView));
-    EXPECT_TRUE(CViewHost::SetClientSize(*pView, 12, 11));
-    CRect rcClient;
-    pView->GetClientRect(&rcClient);
-
-    EXPECT_EQ(CRect(0, 0, 12, 11), rcClient);
-    EXPECT_EQ(CSize(12, 11), CViewHost::ClientSize(*pView));
     pView->DestroyWindow();
 }

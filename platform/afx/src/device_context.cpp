@@ -7,44 +7,24 @@ IMPLEMENT_DYNCREATE(CDC, CObject)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 
-// The tables are never torn down: objects of static life leave them as the process ends.
-static afx::CPointerTable<CDC>& Permanent() {
-    static auto& table = *new afx::CPointerTable<CDC>;
-    return table;
-}
-
-static auto& Temporary() {
-    static auto& objects = *new afx::CTempObjects<CDC, &CDC::m_hDC>;
-    return objects;
+// Never torn down: objects of static life leave it as the process ends.
+static auto& Map() {
+    static auto& map = *new afx::CHandleMap<CDC, &CDC::m_hDC>;
+    return map;
 }
 
 CDC::~CDC() { DeleteDC(); }
 
-CDC* CDC::FromHandle(HDC hDC) {
-    if (hDC == nullptr) {
-        return nullptr;
-    }
-    CDC* const pOwn = Permanent().Lookup(hDC);
-    return pOwn != nullptr ? pOwn : Temporary().FromHandle(hDC);
-}
+CDC* CDC::FromHandle(HDC hDC) { return Map().FromHandle(hDC); }
 
-void CDC::DeleteTempMap() { Temporary().FreeAll(); }
+void CDC::DeleteTempMap() { Map().Temporary().FreeAll(); }
 
 BOOL CDC::Attach(HDC hDC) {
     ASSERT(m_hDC == nullptr);
-    if (hDC == nullptr || !Permanent().Set(hDC, this)) {
-        return FALSE;
-    }
-    m_hDC = hDC;
-    return TRUE;
+    return Map().Attach(hDC, this);
 }
 
-HDC CDC::Detach() {
-    const HDC hDC = m_hDC;
-    Permanent().Remove(hDC, this);
-    m_hDC = nullptr;
-    return hDC;
-}
+HDC CDC::Detach() { return Map().Detach(this); }
 
 BOOL CDC::CreateCompatibleDC(CDC* pDC) {
     const HDC hDC = ::CreateCompatibleDC(pDC != nullptr ? pDC->m_hDC : nullptr);
@@ -76,47 +56,29 @@ CGdiObject* CDC::SelectStockObject(int nIndex) {
     return CGdiObject::FromHandle(::SelectObject(m_hDC, ::GetStockObject(nIndex)));
 }
 
-CPoint CDC::SetViewportOrg(int x, int y) {
-    CPoint before;
-    ::SetViewportOrgEx(m_hDC, x, y, &before);
-    return before;
+// The point that one of the system's functions tells through its last parameter.
+template <class FUNCTION, class... VALUES>
+static CPoint Told(FUNCTION pfn, HDC hDC, VALUES... values) {
+    CPoint point;
+    pfn(hDC, values..., &point);
+    return point;
 }
+
+CPoint CDC::SetViewportOrg(int x, int y) { return Told(::SetViewportOrgEx, m_hDC, x, y); }
 
 CPoint CDC::OffsetViewportOrg(int nWidth, int nHeight) {
-    CPoint before;
-    ::OffsetViewportOrgEx(m_hDC, nWidth, nHeight, &before);
-    return before;
+    return Told(::OffsetViewportOrgEx, m_hDC, nWidth, nHeight);
 }
 
-CPoint CDC::GetViewportOrg() const {
-    CPoint origin;
-    ::GetViewportOrgEx(m_hDC, &origin);
-    return origin;
-}
+CPoint CDC::GetViewportOrg() const { return Told(::GetViewportOrgEx, m_hDC); }
 
-CPoint CDC::SetWindowOrg(int x, int y) {
-    CPoint before;
-    ::SetWindowOrgEx(m_hDC, x, y, &before);
-    return before;
-}
+CPoint CDC::SetWindowOrg(int x, int y) { return Told(::SetWindowOrgEx, m_hDC, x, y); }
 
-CPoint CDC::GetWindowOrg() const {
-    CPoint origin;
-    ::GetWindowOrgEx(m_hDC, &origin);
-    return origin;
-}
+CPoint CDC::GetWindowOrg() const { return Told(::GetWindowOrgEx, m_hDC); }
 
-CPoint CDC::GetCurrentPosition() const {
-    CPoint position;
-    ::GetCurrentPositionEx(m_hDC, &position);
-    return position;
-}
+CPoint CDC::GetCurrentPosition() const { return Told(::GetCurrentPositionEx, m_hDC); }
 
-CPoint CDC::MoveTo(int x, int y) {
-    CPoint before;
-    ::MoveToEx(m_hDC, x, y, &before);
-    return before;
-}
+CPoint CDC::MoveTo(int x, int y) { return Told(::MoveToEx, m_hDC, x, y); }
 
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
     SetBkColor(clr);
@@ -157,6 +119,6 @@ CDC* CWnd::GetDC() { return CDC::FromHandle(::GetDC(m_hWnd)); }
 
 int CWnd::ReleaseDC(CDC* pDC) {
     const HDC hDC = pDC->m_hDC;
-    Temporary().Free(pDC);
+    Map().Temporary().Free(pDC);
     return ::ReleaseDC(m_hWnd, hDC);
 }

@@ -8,11 +8,12 @@ IMPLEMENT_DYNCREATE(CBrush, CGdiObject)
 IMPLEMENT_DYNCREATE(CBitmap, CGdiObject)
 
 // The tables are never torn down: objects of static life leave them as the process ends.
-static afx::CPointerTable<CGdiObject>& Permanent() {
-    static auto& table = *new afx::CPointerTable<CGdiObject>;
-    return table;
+static auto& Map() {
+    static auto& map = *new afx::CHandleMap<CGdiObject, &CGdiObject::m_hObject>;
+    return map;
 }
 
+// A temporary object is of the type that was asked for.
 template <class TYPE>
 static auto& Temporary() {
     static auto& objects = *new afx::CTempObjects<TYPE, &CGdiObject::m_hObject>;
@@ -25,7 +26,7 @@ static TYPE* ObjectOf(HGDIOBJ hObject) {
     if (hObject == nullptr) {
         return nullptr;
     }
-    if (TYPE* const pOwn = dynamic_cast<TYPE*>(Permanent().Lookup(hObject))) {
+    if (TYPE* const pOwn = dynamic_cast<TYPE*>(Map().Lookup(hObject))) {
         return pOwn;
     }
     return Temporary<TYPE>().FromHandle(hObject);
@@ -48,11 +49,7 @@ void CGdiObject::DeleteTempMap() {
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject) {
     ASSERT(m_hObject == nullptr);
-    if (hObject == nullptr || !Permanent().Set(hObject, this)) {
-        return FALSE;
-    }
-    m_hObject = hObject;
-    return TRUE;
+    return Map().Attach(hObject, this);
 }
 
 BOOL CGdiObject::AttachNew(HGDIOBJ hObject) {
@@ -63,12 +60,7 @@ BOOL CGdiObject::AttachNew(HGDIOBJ hObject) {
     return FALSE;
 }
 
-HGDIOBJ CGdiObject::Detach() {
-    const HGDIOBJ hObject = m_hObject;
-    Permanent().Remove(hObject, this);
-    m_hObject = nullptr;
-    return hObject;
-}
+HGDIOBJ CGdiObject::Detach() { return Map().Detach(this); }
 
 BOOL CGdiObject::DeleteObject() { return m_hObject != nullptr && ::DeleteObject(Detach()); }
 

@@ -172,4 +172,39 @@ class CTempObjects {
     CPointerTable<TYPE> m_table;
 };
 
+/// The objects that own their handles, which it does not own, and the temporary ones of all other handles.
+template <class TYPE, auto FIELD>
+class CHandleMap {
+  public:
+    TYPE* Lookup(const void* handle) const { return m_permanent.Lookup(handle); }
+
+    /// Null for none, and when memory is short.
+    template <class HANDLE_TYPE>
+    TYPE* FromHandle(HANDLE_TYPE handle) {
+        TYPE* const pOwn = m_permanent.Lookup(handle);
+        return pOwn != nullptr || handle == nullptr ? pOwn : m_temporary.FromHandle(handle);
+    }
+
+    template <class HANDLE_TYPE>
+    BOOL Attach(HANDLE_TYPE handle, TYPE* pObject) {
+        if (handle == nullptr || !m_permanent.Set(handle, pObject)) {
+            return FALSE;
+        }
+        pObject->*FIELD = handle;
+        return TRUE;
+    }
+
+    /// The handle that the object had.
+    auto Detach(TYPE* pObject) {
+        m_permanent.Remove(pObject->*FIELD, pObject);
+        return std::exchange(pObject->*FIELD, nullptr);
+    }
+
+    CTempObjects<TYPE, FIELD>& Temporary() { return m_temporary; }
+
+  private:
+    CPointerTable<TYPE> m_permanent;
+    CTempObjects<TYPE, FIELD> m_temporary;
+};
+
 } // namespace afx

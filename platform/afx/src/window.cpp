@@ -9,15 +9,10 @@ BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
 ON_WM_NCDESTROY()
 END_MESSAGE_MAP()
 
-// The tables are never torn down: objects of static life leave them as the process ends.
-static afx::CPointerTable<CWnd>& Permanent() {
-    static auto& table = *new afx::CPointerTable<CWnd>;
-    return table;
-}
-
-static auto& Temporary() {
-    static auto& objects = *new afx::CTempObjects<CWnd, &CWnd::m_hWnd>;
-    return objects;
+// Never torn down: objects of static life leave it as the process ends.
+static auto& Map() {
+    static auto& map = *new afx::CHandleMap<CWnd, &CWnd::m_hWnd>;
+    return map;
 }
 
 CWnd::~CWnd() {
@@ -26,31 +21,19 @@ CWnd::~CWnd() {
     }
 }
 
-CWnd* CWnd::FromHandle(HWND hWnd) {
-    if (hWnd == nullptr) {
-        return nullptr;
-    }
-    CWnd* const pOwn = Permanent().Lookup(hWnd);
-    return pOwn != nullptr ? pOwn : Temporary().FromHandle(hWnd);
-}
+CWnd* CWnd::FromHandle(HWND hWnd) { return Map().FromHandle(hWnd); }
 
-CWnd* CWnd::FromHandlePermanent(HWND hWnd) { return hWnd != nullptr ? Permanent().Lookup(hWnd) : nullptr; }
+CWnd* CWnd::FromHandlePermanent(HWND hWnd) { return Map().Lookup(hWnd); }
 
-void CWnd::DeleteTempMap() { Temporary().FreeAll(); }
+void CWnd::DeleteTempMap() { Map().Temporary().FreeAll(); }
 
 BOOL CWnd::Attach(HWND hWndNew) {
     ASSERT(m_hWnd == nullptr);
-    if (hWndNew == nullptr || !Permanent().Set(hWndNew, this)) {
-        return FALSE;
-    }
-    m_hWnd = hWndNew;
-    return TRUE;
+    return Map().Attach(hWndNew, this);
 }
 
 HWND CWnd::Detach() {
-    const HWND hWnd = m_hWnd;
-    Permanent().Remove(hWnd, this);
-    m_hWnd = nullptr;
+    const HWND hWnd = Map().Detach(this);
     if (m_pfnSuper != nullptr) {
         ::SetWindowLongPtrA(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
         m_pfnSuper = nullptr;
@@ -75,7 +58,7 @@ BOOL CWnd::DestroyWindow() {
     const HWND hWnd = m_hWnd;
     const BOOL bResult = ::DestroyWindow(hWnd);
     // This object may be gone, unless the table still has it: WM_NCDESTROY did not come its way.
-    if (Permanent().Lookup(hWnd) == this) {
+    if (Map().Lookup(hWnd) == this) {
         Detach();
     }
     return bResult;

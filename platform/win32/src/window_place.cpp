@@ -111,6 +111,18 @@ static BOOL Place(HWND handle, const RECT& place, Repaint repaint) {
     return TRUE;
 }
 
+// Moves the point by the place of the window's client area on the screen.
+template <LONG (*Combine)(LONG, LONG)>
+static BOOL Shift(HWND handle, LPPOINT point) {
+    const Window* window = FindWindow(handle);
+    if (!window || !point) {
+        return FALSE;
+    }
+    const POINT origin = OriginOnScreen(*window);
+    *point = {Combine(point->x, origin.x), Combine(point->y, origin.y)};
+    return TRUE;
+}
+
 } // namespace win32
 
 using namespace win32;
@@ -173,25 +185,9 @@ BOOL IsWindowVisible(HWND handle) {
     return window && IsSeen(*window);
 }
 
-BOOL ClientToScreen(HWND handle, LPPOINT point) {
-    const Window* window = FindWindow(handle);
-    if (!window || !point) {
-        return FALSE;
-    }
-    const POINT origin = OriginOnScreen(*window);
-    *point = {WrapSum(point->x, origin.x), WrapSum(point->y, origin.y)};
-    return TRUE;
-}
+BOOL ClientToScreen(HWND handle, LPPOINT point) { return Shift<WrapSum>(handle, point); }
 
-BOOL ScreenToClient(HWND handle, LPPOINT point) {
-    const Window* window = FindWindow(handle);
-    if (!window || !point) {
-        return FALSE;
-    }
-    const POINT origin = OriginOnScreen(*window);
-    *point = {WrapDifference(point->x, origin.x), WrapDifference(point->y, origin.y)};
-    return TRUE;
-}
+BOOL ScreenToClient(HWND handle, LPPOINT point) { return Shift<WrapDifference>(handle, point); }
 
 HWND ChildWindowFromPoint(HWND handle, POINT point) {
     const Window* parent = FindWindow(handle);

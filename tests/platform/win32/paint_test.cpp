@@ -21,8 +21,10 @@ class Painting : public WindowStage {
         return rect;
     }
     static std::string Text(const RECT& r) {
-        return std::to_string(r.left) + "," + std::to_string(r.top) + "," + std::to_string(r.right) + "," +
-               std::to_string(r.bottom);
+        std::string text;
+        for (const LONG edge : {r.left, r.top, r.right, r.bottom})
+            text += (text.empty() ? "" : ",") + std::to_string(edge);
+        return text;
     }
     static DWORD PixelAt(HWND top, int x, int y) {
         platform::Surface surface = {};
@@ -30,90 +32,69 @@ class Painting : public WindowStage {
     }
 };
 
-TEST_F(Painting, UpdateAreaIsTheBoundingRectangle) {
+TEST_F(Painting, UpdateAreaIsABoundingRectangleThatShrinksBySides) {
     const HWND top = Quiet(Top("A"));
     const RECT a = {1, 2, 3, 4};
     const RECT b = {10, 1, 99, 3};
+    const RECT left = {0, 0, 10, 30};
+    const RECT middle = {20, 2, 25, 3};
 
     InvalidateRect(top, &a, FALSE);
     InvalidateRect(top, &b, FALSE);
-
     EXPECT_EQ(Text(Update(top)), "1,1,40,4");
-}
+    ValidateRect(top, &left);
+    ValidateRect(top, &middle);
+    EXPECT_EQ(Text(Update(top)), "10,1,40,4");
+    ValidateRect(top, nullptr);
 
-TEST_F(Painting, InvalidatingAParentReachesItsChildren) {
-    const HWND top = Top("A");
-    const HWND child = Child("B", top, 10, 10, 10, 10);
-    const HWND apart = Child("C", top, 30, 10, 5, 5);
-    Quiet(top);
-    const RECT area = {0, 0, 15, 12};
-
-    InvalidateRect(top, &area, FALSE);
-
-    EXPECT_EQ(Text(Update(child)), "0,0,5,2");
-    EXPECT_EQ(Text(Update(apart)), "0,0,0,0");
-}
-
-TEST_F(Painting, InvalidatingAChildLeavesTheParentAlone) {
-    const HWND top = Top("A");
-    const HWND child = Child("B", top, 35, 10, 10, 10);
-    Quiet(top);
-
-    InvalidateRect(child, nullptr, FALSE);
-
-    EXPECT_EQ(Text(Update(child)), "0,0,5,10");
-    EXPECT_EQ(Text(Update(top)), "0,0,0,0");
-}
-
-TEST_F(Painting, ParentsPaintBeforeChildrenAndOnce) {
-    const HWND top = Top("A");
-    Child("B", top, 0, 0, 10, 10);
-    Quiet(top);
-    InvalidateRect(top, nullptr, FALSE);
-
-    Pump();
-
-    EXPECT_EQ(TakeLog(), "A:paint B:paint");
     EXPECT_EQ(Pump(), 0);
 }
 
-TEST_F(Painting, UpdateWindowPaintsAtOnceWhereThereIsSomething) {
+TEST_F(Painting, InvalidatingAParentReachesItsChildrenButNotTheOtherWay) {
+    const HWND top = Top("A");
+    const HWND child = Child("B", top, 10, 10, 10, 10);
+    const HWND apart = Child("C", top, 35, 10, 10, 10);
+    Quiet(top);
+    const RECT area = {0, 0, 15, 12};
+
+    InvalidateRect(apart, nullptr, FALSE);
+    EXPECT_EQ(Text(Update(top)), "0,0,0,0");
+    InvalidateRect(top, &area, FALSE);
+
+    EXPECT_EQ(Text(Update(child)), "0,0,5,2");
+    EXPECT_EQ(Text(Update(apart)), "0,0,5,10");
+}
+
+TEST_F(Painting, ParentsPaintBeforeChildrenAndOnceWhereThereIsSomething) {
     const HWND top = Top("A");
     const HWND child = Child("B", top, 0, 0, 10, 10);
     Quiet(top);
 
-    UpdateWindow(top);
-    EXPECT_EQ(TakeLog(), "");
+    InvalidateRect(top, nullptr, FALSE);
+    Pump();
+    EXPECT_EQ(TakeLog(), "A:paint B:paint");
+    EXPECT_EQ(Pump(), 0);
     InvalidateRect(child, nullptr, FALSE);
     UpdateWindow(top);
 
     EXPECT_EQ(TakeLog(), "B:paint");
 }
 
-TEST_F(Painting, UpdateSurvivesAWindowThatGoesWhilePainting) {
+TEST_F(Painting, UpdateSurvivesAWindowThatGoesWhilePaintingAndLeavesHiddenOnesOut) {
     const HWND top = Top("A");
     Child("B", top, 0, 0, 10, 10);
     Child("C", top, 20, 0, 10, 10);
+    const HWND hidden = Child("D", top, 0, 0, 10, 10);
+    Child("E", hidden, 0, 0, 10, 10);
+    ShowWindow(hidden, SW_HIDE);
     Quiet(top);
     On("C", WM_PAINT, [](HWND window, WPARAM, LPARAM) { return LRESULT{DestroyWindow(window)}; });
+    InvalidateRect(hidden, nullptr, TRUE);
     InvalidateRect(top, nullptr, FALSE);
 
     UpdateWindow(top);
 
     EXPECT_EQ(TakeLog(), "A:paint C:paint B:paint");
-}
-
-TEST_F(Painting, HiddenWindowsNeverPaint) {
-    const HWND top = Top("A");
-    const HWND child = Child("B", top, 0, 0, 10, 10);
-    ShowWindow(child, SW_HIDE);
-    Quiet(top);
-
-    InvalidateRect(child, nullptr, TRUE);
-    InvalidateRect(top, nullptr, TRUE);
-    Pump();
-
-    EXPECT_EQ(TakeLog(), "A:paint");
 }
 
 TEST_F(Painting, BeginPaintEmptiesTheUpdateAreaAndClips) {
@@ -123,8 +104,7 @@ TEST_F(Painting, BeginPaintEmptiesTheUpdateAreaAndClips) {
     PAINTSTRUCT paint;
 
     const HDC dc = BeginPaint(top, &paint);
-    const RECT all = {0, 0, 40, 30};
-    FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    PatBlt(dc, 0, 0, 40, 30, WHITENESS);
     EXPECT_FALSE(GetUpdateRect(top, nullptr, FALSE));
     EXPECT_TRUE(EndPaint(top, &paint));
 
@@ -134,9 +114,10 @@ TEST_F(Painting, BeginPaintEmptiesTheUpdateAreaAndClips) {
     EXPECT_EQ(PixelAt(top, 4, 5), 0U);
 }
 
-TEST_F(Painting, EraseIsAskedForOnlyWhereItWasWanted) {
+TEST_F(Painting, EraseIsAskedForOnlyWhereItWasWantedAndUsesTheClassBrush) {
     const HWND top = Quiet(Top("A"));
     Log(WM_ERASEBKGND, "erase");
+    SetClassLongPtrA(top, GCLP_HBRBACKGROUND, COLOR_WINDOW + 1);
 
     InvalidateRect(top, nullptr, FALSE);
     Pump();
@@ -145,15 +126,6 @@ TEST_F(Painting, EraseIsAskedForOnlyWhereItWasWanted) {
     Pump();
 
     EXPECT_EQ(TakeLog(), "A:paint A:erase");
-}
-
-TEST_F(Painting, ClassBrushErases) {
-    const HWND top = Quiet(Top("A"));
-    SetClassLongPtrA(top, GCLP_HBRBACKGROUND, COLOR_WINDOW + 1);
-
-    InvalidateRect(top, nullptr, TRUE);
-    Pump();
-
     EXPECT_EQ(PixelAt(top, 39, 29), 0xFFFFFFU);
 }
 
@@ -161,30 +133,13 @@ TEST_F(Painting, ChildDrawsIntoItsParentsPixelsWithinItsOwnArea) {
     const HWND top = Top("A");
     const HWND child = Child("B", top, 30, 20, 20, 4);
     const HDC dc = GetDC(child);
-    const RECT large = {-50, -50, 50, 50};
-    FillRect(dc, &large, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
 
+    PatBlt(dc, -50, -50, 100, 100, WHITENESS);
     EXPECT_EQ(ReleaseDC(child, dc), 1);
 
-    EXPECT_EQ(PixelAt(top, 30, 20), 0xFFFFFFU);
     EXPECT_EQ(PixelAt(top, 39, 23), 0xFFFFFFU);
     EXPECT_EQ(PixelAt(top, 29, 20), 0U);
     EXPECT_EQ(PixelAt(top, 30, 24), 0U);
-}
-
-TEST_F(Painting, ValidatingOneSideKeepsTheRest) {
-    const HWND top = Quiet(Top("A"));
-    const RECT left = {0, 0, 10, 30};
-    const RECT middle = {20, 10, 25, 12};
-    InvalidateRect(top, nullptr, FALSE);
-
-    ValidateRect(top, &left);
-    EXPECT_EQ(Text(Update(top)), "10,0,40,30");
-    ValidateRect(top, &middle);
-    EXPECT_EQ(Text(Update(top)), "10,0,40,30");
-    ValidateRect(top, nullptr);
-
-    EXPECT_EQ(Pump(), 0);
 }
 
 struct Presented final : platform::IPresenter {
@@ -253,27 +208,18 @@ TEST_F(Painting, FailingPaintContextLeavesNothingToPaint) {
     EXPECT_EQ(platform::CountLive().deviceContexts, 0U);
 }
 
-TEST_F(Painting, ContextOfAWindowThatWentDrawsNothing) {
-    const HWND top = Top("A");
-    const HDC dc = GetDC(top);
-
-    DestroyWindow(top);
-
-    EXPECT_EQ(SetPixel(dc, 0, 0, White), CLR_INVALID);
-    EXPECT_TRUE(LineTo(dc, 5, 5));
-    EXPECT_EQ(ReleaseDC(top, dc), 1);
-    EXPECT_EQ(ReleaseDC(top, dc), 0);
-}
-
-TEST_F(Painting, SurfaceKeepsItsPixelsWhenItGrows) {
+TEST_F(Painting, ContextFollowsAWindowThatGrowsAndDrawsNothingOnOneThatWent) {
     const HWND top = Quiet(Top("A"));
     const HDC dc = GetDC(top);
     SetPixel(dc, 39, 29, White);
 
     MoveWindow(top, 0, 0, 50, 50, FALSE);
     SetPixel(dc, 49, 49, White);
-    ReleaseDC(top, dc);
-
     EXPECT_EQ(PixelAt(top, 39, 29), 0xFFFFFFU);
     EXPECT_EQ(PixelAt(top, 49, 49), 0xFFFFFFU);
+    DestroyWindow(top);
+
+    EXPECT_EQ(SetPixel(dc, 0, 0, White), CLR_INVALID);
+    EXPECT_EQ(ReleaseDC(top, dc), 1);
+    EXPECT_EQ(ReleaseDC(top, dc), 0);
 }

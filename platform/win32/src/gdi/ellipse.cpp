@@ -60,19 +60,13 @@ BOOL Ellipse(HDC dc, int left, int top, int right, int bottom) {
     if (!context) {
         return FALSE;
     }
-    RECT outer = ToDeviceRect(*context, left, top, right, bottom);
+    const RECT rect = ToDeviceRect(*context, left, top, right, bottom);
+    const RECT outer = OuterEdge(*context, rect);
     const LONG width = context->pen->width;
-    if (context->pen->style == PS_NULL) {
-        --outer.right;
-        --outer.bottom;
-    } else {
-        outer = {outer.left - width / 2, outer.top - width / 2, outer.right + (width - 1) / 2,
-                 outer.bottom + (width - 1) / 2};
-    }
     RECT inner = outer;
     InflateRect(&inner, -width, -width);
     Canvas canvas;
-    if (IsRectEmpty(&outer) || !OpenForDrawing(*context, outer, &canvas)) {
+    if (IsRectEmpty(&rect) || !OpenForDrawing(*context, outer, &canvas)) {
         return TRUE;
     }
     for (LONG y = canvas.clip.top; y < canvas.clip.bottom; ++y) {

@@ -59,16 +59,8 @@ static void FillWithBrush(DeviceContext& context, const Canvas& canvas, const RE
     }
 }
 
-// A wide pen's frame stands half outside the rectangle's own edge pixels.
-static RECT OuterEdge(const DeviceContext& context, const RECT& rect) {
-    const LONG outward = context.pen->width / 2;
-    const LONG further = context.pen->width - 1 - outward;
-    return {rect.left - outward, rect.top - outward, rect.right + further, rect.bottom + further};
-}
-
-static void DrawRectangle(DeviceContext& context, const Canvas& canvas, const RECT& rect) {
+static void DrawRectangle(DeviceContext& context, const Canvas& canvas, const RECT& rect, const RECT& outer) {
     const Stroke stroke = StrokeOf(context, canvas);
-    const RECT outer = OuterEdge(context, rect);
     const RECT inner = Inside(outer, stroke.width);
     if (stroke.dotted) {
         DotFrame(canvas, stroke, rect);
@@ -95,22 +87,16 @@ BOOL Rectangle(HDC dc, int left, int top, int right, int bottom) {
     if (!context) {
         return FALSE;
     }
-    RECT rect = ToDeviceRect(*context, left, top, right, bottom);
-    const bool framed = context->pen->style != PS_NULL;
-    if (!framed) {
-        // Without a frame the last row and column go, too.
-        --rect.right;
-        --rect.bottom;
-    }
-    const RECT box = framed ? OuterEdge(*context, rect) : rect;
+    const RECT rect = ToDeviceRect(*context, left, top, right, bottom);
+    const RECT outer = OuterEdge(*context, rect);
     Canvas canvas;
-    if (IsRectEmpty(&rect) || !OpenForDrawing(*context, box, &canvas)) {
+    if (IsRectEmpty(&rect) || !OpenForDrawing(*context, outer, &canvas)) {
         return TRUE;
     }
-    if (framed) {
-        DrawRectangle(*context, canvas, rect);
+    if (context->pen->style == PS_NULL) {
+        FillWithBrush(*context, canvas, outer);
     } else {
-        FillWithBrush(*context, canvas, rect);
+        DrawRectangle(*context, canvas, rect, outer);
     }
     return TRUE;
 }

@@ -21,6 +21,15 @@ RECT StrokeBox(const DeviceContext& context, POINT from, POINT to) {
             std::max(from.y, to.y) + reach};
 }
 
+RECT OuterEdge(const DeviceContext& context, const RECT& rect) {
+    if (context.pen->style == PS_NULL) {
+        return {rect.left, rect.top, rect.right - 1, rect.bottom - 1};
+    }
+    const LONG outward = context.pen->width / 2;
+    const LONG further = context.pen->width - 1 - outward;
+    return {rect.left - outward, rect.top - outward, rect.right + further, rect.bottom + further};
+}
+
 // A line seen along its longer axis: a step a pixel, and now and then one across.
 struct Course {
     Course(POINT from, POINT to) {

@@ -2,38 +2,26 @@
 
 static HBRUSH WhiteBrush() { return static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)); }
 
-TEST(Rectangles, FrameStandsInsideRightAndBottom) {
-    Picture picture(6, 5);
-
-    Rectangle(picture.Dc(), 1, 1, 5, 4);
-
-    EXPECT_EQ(picture.Rows(), (Rows{"------", "-kkkk-", "-kWWk-", "-kkkk-", "------"}));
+/// What the shape's operation leaves of a picture of this size when it is drawn with stock objects.
+static Rows Drawn(decltype(&Rectangle) shape, int width, int height, RECT rect, int pen = BLACK_PEN,
+                  int brush = WHITE_BRUSH) {
+    Picture picture(width, height);
+    SelectObject(picture.Dc(), GetStockObject(pen));
+    SelectObject(picture.Dc(), GetStockObject(brush));
+    shape(picture.Dc(), rect.left, rect.top, rect.right, rect.bottom);
+    return picture.Rows();
 }
 
-TEST(Rectangles, CornersMayComeInAnyOrder) {
-    Picture picture(6, 5);
+TEST(Rectangles, FrameStandsInsideRightAndBottomWhateverTheOrderOfCorners) {
+    const Rows expected = {"------", "-kkkk-", "-kWWk-", "-kkkk-", "------"};
 
-    Rectangle(picture.Dc(), 5, 4, 1, 1);
-
-    EXPECT_EQ(picture.Rows(), (Rows{"------", "-kkkk-", "-kWWk-", "-kkkk-", "------"}));
+    EXPECT_EQ(Drawn(Rectangle, 6, 5, {1, 1, 5, 4}), expected);
+    EXPECT_EQ(Drawn(Rectangle, 6, 5, {5, 4, 1, 1}), expected);
 }
 
-TEST(Rectangles, NullPenGivesUpTheLastRowAndColumn) {
-    Picture picture(6, 5);
-    SelectObject(picture.Dc(), GetStockObject(NULL_PEN));
-
-    Rectangle(picture.Dc(), 1, 1, 5, 4);
-
-    EXPECT_EQ(picture.Rows(), (Rows{"------", "-WWW--", "-WWW--", "------", "------"}));
-}
-
-TEST(Rectangles, NullBrushLeavesTheInside) {
-    Picture picture(4, 4);
-    SelectObject(picture.Dc(), GetStockObject(NULL_BRUSH));
-
-    Rectangle(picture.Dc(), 0, 0, 4, 4);
-
-    EXPECT_EQ(picture.Rows(), (Rows{"kkkk", "k--k", "k--k", "kkkk"}));
+TEST(Rectangles, NullPenGivesUpTheLastRowAndColumnAndNullBrushTheInside) {
+    EXPECT_EQ(Drawn(Rectangle, 5, 4, {1, 1, 5, 4}, NULL_PEN), (Rows{"-----", "-WWW-", "-WWW-", "-----"}));
+    EXPECT_EQ(Drawn(Rectangle, 4, 3, {0, 0, 4, 3}, BLACK_PEN, NULL_BRUSH), (Rows{"kkkk", "k--k", "kkkk"}));
 }
 
 TEST(Rectangles, WideFrameStandsAroundTheEdgePixels) {
@@ -58,89 +46,57 @@ TEST(Rectangles, DottedFrameRunsRoundClockwise) {
     EXPECT_EQ(picture.Rows(), (Rows{"WWWkk", "W---k", "W---W", "kkkWW"}));
 }
 
-class XorRectangles : public testing::TestWithParam<std::pair<int, int>> {};
-
-TEST_P(XorRectangles, TouchEachPixelOnce) {
-    Picture picture(6, 6);
-    PatBlt(picture.Dc(), 0, 0, 6, 6, BLACKNESS);
+/// The pixels of a black picture that the shape's white frame and inside leave white when drawn by exclusive
+/// or.
+static Rows Toggled(decltype(&Rectangle) shape, int size, int width, int height) {
+    Picture picture(size, size);
+    PatBlt(picture.Dc(), 0, 0, size, size, BLACKNESS);
     picture.Use(CreatePen(PS_SOLID, 1, White));
     SetROP2(picture.Dc(), R2_XORPEN);
-    const auto [width, height] = GetParam();
+    shape(picture.Dc(), 0, 0, width, height);
+    return picture.Rows();
+}
 
-    Rectangle(picture.Dc(), 0, 0, width, height);
+TEST(Rectangles, TouchEachPixelOnce) {
+    for (const POINT size : {POINT{1, 1}, {1, 5}, {5, 1}, {2, 2}, {2, 6}, {3, 3}, {6, 4}}) {
+        const Rows rows = Toggled(Rectangle, 6, size.x, size.y);
+        for (int i = 0; i < 36; ++i)
+            EXPECT_EQ(rows[i / 6][i % 6] == 'W', i % 6 < size.x && i / 6 < size.y) << size.x << " " << i;
+    }
+}
 
-    for (int y = 0; y < 6; ++y) {
-        for (int x = 0; x < 6; ++x) {
-            EXPECT_EQ(picture.Pixels()[y * 6 + x] != 0, x < width && y < height) << x << "," << y;
+TEST(Ellipses, HoldTheCentresInside) {
+    EXPECT_EQ(Drawn(Ellipse, 6, 6, {0, 0, 6, 6}),
+              (Rows{"-kkkk-", "kWWWWk", "kWWWWk", "kWWWWk", "kWWWWk", "-kkkk-"}));
+    EXPECT_EQ(Drawn(Ellipse, 7, 5, {0, 0, 8, 6}, NULL_PEN),
+              (Rows{"-WWWWW-", "WWWWWWW", "WWWWWWW", "WWWWWWW", "-WWWWW-"}));
+}
+
+TEST(Ellipses, AreSymmetricalAndTouchEachPixelOnce) {
+    for (const POINT size : {POINT{1, 1}, {2, 3}, {3, 3}, {12, 12}, {13, 7}, {20, 20}, {19, 2}}) {
+        const Rows rows = Toggled(Ellipse, 20, size.x, size.y);
+        for (int y = 0; y < size.y; ++y) {
+            const std::string row = rows[y].substr(0, size.x);
+            EXPECT_EQ(row[size.x / 2], 'W') << size.x << " " << y;
+            EXPECT_EQ(row, std::string(row.rbegin(), row.rend())) << size.x << " " << y;
+            EXPECT_EQ(row, rows[size.y - 1 - y].substr(0, size.x)) << size.x << " " << y;
         }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Sizes, XorRectangles,
-                         testing::Values(std::pair{1, 1}, std::pair{1, 5}, std::pair{5, 1}, std::pair{2, 2},
-                                         std::pair{2, 6}, std::pair{3, 3}, std::pair{6, 4}));
-
-TEST(Ellipses, OfSixBySixLoseTheirCorners) {
-    Picture picture(6, 6);
-
-    Ellipse(picture.Dc(), 0, 0, 6, 6);
-
-    EXPECT_EQ(picture.Rows(), (Rows{"-kkkk-", "kWWWWk", "kWWWWk", "kWWWWk", "kWWWWk", "-kkkk-"}));
-}
-
-TEST(Ellipses, OfSevenByFiveHoldTheCentresInside) {
-    Picture picture(7, 5);
-    SelectObject(picture.Dc(), GetStockObject(NULL_PEN));
-
-    Ellipse(picture.Dc(), 0, 0, 8, 6);
-
-    EXPECT_EQ(picture.Rows(), (Rows{"-WWWWW-", "WWWWWWW", "WWWWWWW", "WWWWWWW", "-WWWWW-"}));
-}
-
-class EllipseSizes : public testing::TestWithParam<std::pair<int, int>> {};
-
-TEST_P(EllipseSizes, AreSymmetricalAndTouchEachPixelOnce) {
-    Picture picture(20, 20);
-    PatBlt(picture.Dc(), 0, 0, 20, 20, BLACKNESS);
-    picture.Use(CreatePen(PS_SOLID, 1, White));
-    SetROP2(picture.Dc(), R2_XORPEN);
-    const auto [width, height] = GetParam();
-
-    Ellipse(picture.Dc(), 0, 0, width, height);
-
-    const auto at = [&](int x, int y) { return picture.Pixels()[y * 20 + x]; };
-    for (int y = 0; y < height; ++y) {
-        EXPECT_NE(at(width / 2, y), 0U) << y;
-        for (int x = 0; x < width; ++x) {
-            EXPECT_EQ(at(x, y), at(width - 1 - x, y)) << x << "," << y;
-            EXPECT_EQ(at(x, y), at(x, height - 1 - y)) << x << "," << y;
-        }
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Sizes, EllipseSizes,
-                         testing::Values(std::pair{1, 1}, std::pair{2, 3}, std::pair{3, 3}, std::pair{12, 12},
-                                         std::pair{13, 7}, std::pair{20, 20}, std::pair{19, 2}));
-
-TEST(Fills, FillRectIgnoresTheMixModeAndEmptyRects) {
-    Picture picture(4, 2);
-    SetROP2(picture.Dc(), R2_NOP);
-    const RECT some = {1, 0, 3, 1};
-    const RECT inverted = {3, 2, 1, 0};
-
-    EXPECT_TRUE(FillRect(picture.Dc(), &some, WhiteBrush()));
-    EXPECT_TRUE(FillRect(picture.Dc(), &inverted, WhiteBrush()));
-
-    EXPECT_EQ(picture.Rows(), (Rows{"-WW-", "----"}));
-}
-
-TEST(Fills, FrameRectIsOnePixelWide) {
+TEST(Fills, FillRectIgnoresTheMixModeAndEmptyRectsAndFrameRectIsOnePixelWide) {
     Picture picture(4, 4);
+    SetROP2(picture.Dc(), R2_NOP);
+    const RECT inverted = {3, 2, 1, 0};
+    const RECT some = {1, 1, 3, 2};
     const RECT all = {0, 0, 4, 4};
 
+    EXPECT_TRUE(FillRect(picture.Dc(), &inverted, WhiteBrush()));
+    EXPECT_TRUE(FillRect(picture.Dc(), &some, WhiteBrush()));
+    EXPECT_EQ(picture.Rows(), (Rows{"----", "-WW-", "----", "----"}));
     FrameRect(picture.Dc(), &all, WhiteBrush());
 
-    EXPECT_EQ(picture.Rows(), (Rows{"WWWW", "W--W", "W--W", "WWWW"}));
+    EXPECT_EQ(picture.Rows(), (Rows{"WWWW", "WWWW", "W--W", "WWWW"}));
 }
 
 TEST(Fills, ColoursTurnRoundBetweenColourAndPixel) {

@@ -1,107 +1,69 @@
 #include "../stage.h"
 
-TEST(Lines, LastPixelIsLeftOut) {
-    Picture picture(6, 1);
-
-    MoveToEx(picture.Dc(), 1, 0, nullptr);
-    LineTo(picture.Dc(), 4, 0);
-
-    EXPECT_EQ(picture.Rows(), Rows{"-kkk--"});
-    POINT at;
-    GetCurrentPositionEx(picture.Dc(), &at);
-    EXPECT_EQ(at.x, 4);
+static void Draw(const Picture& picture, POINT from, POINT to) {
+    MoveToEx(picture.Dc(), from.x, from.y, nullptr);
+    LineTo(picture.Dc(), to.x, to.y);
 }
 
-TEST(Lines, BothDirectionsTakeTheSamePixelsBetweenTheEnds) {
-    Picture there(5, 3);
-    Picture back(5, 3);
-
-    MoveToEx(there.Dc(), 0, 0, nullptr);
-    LineTo(there.Dc(), 4, 2);
-    MoveToEx(back.Dc(), 4, 2, nullptr);
-    LineTo(back.Dc(), 0, 0);
-
-    EXPECT_EQ(there.Rows(), (Rows{"kk---", "--kk-", "-----"}));
-    EXPECT_EQ(back.Rows(), (Rows{"-k---", "--kk-", "----k"}));
-}
-
-TEST(Lines, SteepOnesStepAlongTheirHeight) {
-    Picture picture(3, 5);
-
-    MoveToEx(picture.Dc(), 2, 0, nullptr);
-    LineTo(picture.Dc(), 0, 4);
-
-    // Half-way points take the left pixel.
-    EXPECT_EQ(picture.Rows(), (Rows{"--k", "-k-", "-k-", "k--", "---"}));
-}
-
-class DottedLines : public testing::Test {
-  protected:
-    DottedLines() {
-        m_picture.Use(CreatePen(PS_DOT, 1, White));
-        SetBkColor(m_picture.Dc(), Black);
+TEST(Lines, LeaveTheLastPixelOutAndTakeTheSameBetweenTheEndsBothWays) {
+    struct Row {
+        POINT from, to;
+        Rows expected;
+    };
+    // Half-way points take the upper or the left pixel.
+    for (const Row& row :
+         {Row{{1, 0}, {4, 0}, {"-kkk-", "-----", "-----"}}, Row{{0, 0}, {4, 2}, {"kk---", "--kk-", "-----"}},
+          Row{{4, 2}, {0, 0}, {"-k---", "--kk-", "----k"}},
+          Row{{1, 0}, {0, 2}, {"-k---", "k----", "-----"}}}) {
+        const Picture picture(5, 3);
+        Draw(picture, row.from, row.to);
+        EXPECT_EQ(picture.Rows(), row.expected) << row.from.x << " to " << row.to.x;
+        POINT at;
+        GetCurrentPositionEx(picture.Dc(), &at);
+        EXPECT_EQ(at.x, row.to.x);
     }
-    std::string Drawn() { return m_picture.Rows()[0]; }
-
-    Picture m_picture{14, 1};
-};
-
-TEST_F(DottedLines, ThreePixelsOnThreeOffInTheBackgroundColour) {
-    MoveToEx(m_picture.Dc(), 0, 0, nullptr);
-    LineTo(m_picture.Dc(), 14, 0);
-
-    EXPECT_EQ(Drawn(), "WWWkkkWWWkkkWW");
 }
 
-TEST_F(DottedLines, TransparentGapsLeaveWhatIsThere) {
-    SetBkMode(m_picture.Dc(), TRANSPARENT);
-
-    MoveToEx(m_picture.Dc(), 0, 0, nullptr);
-    LineTo(m_picture.Dc(), 14, 0);
-
-    EXPECT_EQ(Drawn(), "WWW---WWW---WW");
+TEST(Lines, DottedOnesRunThreeOnThreeOffThroughCornersClipsAndHiddenParts) {
+    struct Row {
+        int background;
+        std::vector<POINT> points;
+        std::string expected;
+    };
+    // In the last row five pixels go down the hidden side and two more up to the edge, so that the pattern is
+    // one pixel in at the first that is seen.
+    for (const Row& row : {Row{OPAQUE, {{0, 0}, {14, 0}}, "WWWkkkWWWkkkWW"},
+                           Row{TRANSPARENT, {{0, 0}, {14, 0}}, "WWW---WWW---WW"},
+                           Row{OPAQUE, {{0, 0}, {4, 0}, {14, 0}}, "WWWkkkWWWkkkWW"},
+                           Row{OPAQUE, {{-4, 0}, {4, 0}}, "kkWW----------"},
+                           Row{OPAQUE, {{-2, 5}, {-2, 0}, {4, 0}}, "WWkk----------"}}) {
+        Picture picture(14, 1);
+        picture.Use(CreatePen(PS_DOT, 1, White));
+        SetBkColor(picture.Dc(), Black);
+        SetBkMode(picture.Dc(), row.background);
+        MoveToEx(picture.Dc(), row.points[0].x, row.points[0].y, nullptr);
+        for (std::size_t i = 1; i < row.points.size(); ++i)
+            LineTo(picture.Dc(), row.points[i].x, row.points[i].y);
+        EXPECT_EQ(picture.Rows(), Rows{row.expected});
+    }
 }
 
-TEST_F(DottedLines, PatternRunsOnFromOneLineToTheNext) {
-    MoveToEx(m_picture.Dc(), 0, 0, nullptr);
-    LineTo(m_picture.Dc(), 4, 0);
-    LineTo(m_picture.Dc(), 14, 0);
+TEST(Lines, MovingStartsTheDotsAnew) {
+    Picture picture(14, 1);
+    picture.Use(CreatePen(PS_DOT, 1, White));
+    SetBkColor(picture.Dc(), Black);
 
-    EXPECT_EQ(Drawn(), "WWWkkkWWWkkkWW");
-}
+    Draw(picture, {0, 0}, {4, 0});
+    Draw(picture, {4, 0}, {14, 0});
 
-TEST_F(DottedLines, MovingStartsThePatternAnew) {
-    MoveToEx(m_picture.Dc(), 0, 0, nullptr);
-    LineTo(m_picture.Dc(), 4, 0);
-    MoveToEx(m_picture.Dc(), 4, 0, nullptr);
-    LineTo(m_picture.Dc(), 14, 0);
-
-    EXPECT_EQ(Drawn(), "WWWkWWWkkkWWWk");
-}
-
-TEST_F(DottedLines, PartOutsideThePictureCountsForThePattern) {
-    MoveToEx(m_picture.Dc(), -4, 0, nullptr);
-    LineTo(m_picture.Dc(), 4, 0);
-
-    EXPECT_EQ(Drawn(), "kkWW----------");
-}
-
-TEST_F(DottedLines, WhollyHiddenLinesCountToo) {
-    MoveToEx(m_picture.Dc(), -2, 5, nullptr);
-    LineTo(m_picture.Dc(), -2, 0);
-    LineTo(m_picture.Dc(), 4, 0);
-
-    // Five pixels go down the hidden side and two more up to the edge, so the pattern is one pixel in at the
-    // first seen.
-    EXPECT_EQ(Drawn(), "WWkk----------");
+    EXPECT_EQ(picture.Rows(), Rows{"WWWkWWWkkkWWWk"});
 }
 
 TEST(Lines, WidePenStandsOnBothSidesAndIncludesTheEnd) {
     Picture picture(5, 5);
     picture.Use(CreatePen(PS_SOLID, 2, Black));
 
-    MoveToEx(picture.Dc(), 2, 1, nullptr);
-    LineTo(picture.Dc(), 2, 3);
+    Draw(picture, {2, 1}, {2, 3});
 
     EXPECT_EQ(picture.Rows(), (Rows{"-----", "-kk--", "-kk--", "-kk--", "-----"}));
 }
@@ -113,8 +75,7 @@ TEST(Lines, DrawnTwiceWithTheXorPenIsNothing) {
     const Rows before = picture.Rows();
 
     for (int i = 0; i < 2; ++i) {
-        MoveToEx(picture.Dc(), 1, 6, nullptr);
-        LineTo(picture.Dc(), 6, 2);
+        Draw(picture, {1, 6}, {6, 2});
         EXPECT_EQ(picture.Rows() == before, i == 1);
     }
 }
@@ -138,13 +99,4 @@ TEST(Lines, FarAwayEndsAreRefusedAndLongOnesClipped) {
     EXPECT_TRUE(LineTo(picture.Dc(), 100000000, 0));
 
     EXPECT_EQ(picture.Rows(), Rows{"kkkk"});
-}
-
-TEST(Lines, NullPenDrawsNothing) {
-    Picture picture(4, 1);
-    SelectObject(picture.Dc(), GetStockObject(NULL_PEN));
-
-    EXPECT_TRUE(LineTo(picture.Dc(), 4, 0));
-
-    EXPECT_EQ(picture.Rows(), Rows{"----"});
 }
