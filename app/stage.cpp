@@ -155,7 +155,7 @@ CImgNode* CStage::AddPicture(const std::string& name, COLORREF crFill, int nX, i
         (options.ellipseMask && !AddEllipseMask(picture))) {
         return nullptr;
     }
-    const CRect rect(nX, nY, nX + nWidth, nY + nHeight);
+    const CRect rect(CPoint(nX, nY), CSize(nWidth, nHeight));
     CImgNode* pNode = MakePictureNode(*m_desk.Document(), std::move(picture), rect);
     if (pNode) {
         ApplyOptions(*pNode, options);
@@ -170,7 +170,7 @@ CImgNode* CStage::AddPictureFile(const std::string& name, const char* pszFile, i
     if (!LoadPicture(pszFile, picture, error)) {
         return nullptr;
     }
-    const CRect rect(nX, nY, nX + nWidth, nY + nHeight);
+    const CRect rect(CPoint(nX, nY), CSize(nWidth, nHeight));
     const bool bMasked = !options.ellipseMask || AddEllipseMask(picture);
     CImgNode* pNode = bMasked ? MakePictureNode(*m_desk.Document(), std::move(picture), rect) : nullptr;
     if (!pNode) {
@@ -184,7 +184,7 @@ CImgNode* CStage::AddPictureFile(const std::string& name, const char* pszFile, i
 CImgNode* CStage::AddPlaceholder(const std::string& name, int nX, int nY, int nWidth, int nHeight) {
     trace::CQuietScope quiet;
     CVorDoc& doc = *m_desk.Document();
-    const CRect rect(nX, nY, nX + nWidth, nY + nHeight);
+    const CRect rect(CPoint(nX, nY), CSize(nWidth, nHeight));
     CImgNode* pObject = AddPicture(name, PlaceholderFill, nX, nY, nWidth, nHeight);
     CImgNode* pFrame = pObject ? MakeEmptyFrame(doc, rect) : nullptr;
     if (!pFrame) {
