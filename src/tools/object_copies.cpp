@@ -6,6 +6,13 @@ namespace {
 
 using NodePtr = std::unique_ptr<CImgNode>;
 
+void TakeOut(CImgNodeList& objects, CImgNode* pNode) {
+    POSITION position = pNode ? objects.Find(pNode) : nullptr;
+    if (position) {
+        objects.RemoveAt(position);
+    }
+}
+
 } // namespace
 
 CImgNode* CopyObject(CImgNode& node, CopyOperation copy) {
@@ -40,4 +47,10 @@ void AddGroupAtHead(CImgNodeList& objects, CImgNode* pObject) {
     if (pObject->m_pFrameNode) {
         objects.AddHead(pObject->m_pFrameNode);
     }
+}
+
+void TakeGroupOut(CImgNodeList& objects, CImgNode* pObject) {
+    TakeOut(objects, pObject);
+    TakeOut(objects, pObject->m_pFrameNode);
+    TakeOut(objects, pObject->m_pShadowNode);
 }

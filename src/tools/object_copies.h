@@ -1,4 +1,4 @@
-// Copies of objects with their companions.
+// Objects with their companions: copying them, putting them on the page, taking them off it.
 #pragma once
 
 #include "host/img_node_list.h"
@@ -13,3 +13,7 @@ CImgNode* CopyObject(CImgNode& node, CopyOperation copy);
 /// Adds the object with its companions at the head, so that the list reads frame, object, shadow from the
 /// front.
 void AddGroupAtHead(CImgNodeList& objects, CImgNode* pObject);
+
+/// Takes the object, its frame and its shadow off the list; those that are not in it are passed over. Links
+/// stay.
+void TakeGroupOut(CImgNodeList& objects, CImgNode* pObject);

@@ -2,18 +2,8 @@
 #include "host/panels.h"
 #include "ops/bus.h"
 #include "ops/refresh.h"
+#include "tools/object_copies.h"
 #include "tools/tool_core.h"
-
-namespace {
-
-void TakeOut(CImgNodeList& objects, CImgNode* pNode) {
-    POSITION position = pNode ? objects.Find(pNode) : nullptr;
-    if (position) {
-        objects.RemoveAt(position);
-    }
-}
-
-} // namespace
 
 // Nothing is recorded and nothing is freed; the companions' links stay.
 void CToolCore::m_fnDelete() {
@@ -31,9 +21,7 @@ void CToolCore::m_fnDelete() {
     for (POSITION position = selected.GetHeadPosition(); position;) {
         CImgNode* pNode = selected.GetNext(position);
         if (!pNode->m_pOwner) {
-            TakeOut(canvas.Objects(), pNode);
-            TakeOut(canvas.Objects(), pNode->m_pFrameNode);
-            TakeOut(canvas.Objects(), pNode->m_pShadowNode);
+            TakeGroupOut(canvas.Objects(), pNode);
             SelectNode(canvas, pNode, 0);
         }
     }

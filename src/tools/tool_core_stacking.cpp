@@ -6,19 +6,6 @@
 
 namespace {
 
-void TakeOut(CImgNodeList& objects, CImgNode* pNode) {
-    POSITION position = pNode ? objects.Find(pNode) : nullptr;
-    if (position) {
-        objects.RemoveAt(position);
-    }
-}
-
-void TakeGroupOut(CImgNodeList& objects, CImgNode* pObject) {
-    TakeOut(objects, pObject);
-    TakeOut(objects, pObject->m_pFrameNode);
-    TakeOut(objects, pObject->m_pShadowNode);
-}
-
 void AddGroupAtTail(CImgNodeList& objects, CImgNode* pObject) {
     for (CImgNode* pNode : {pObject->m_pFrameNode, pObject, pObject->m_pShadowNode}) {
         if (pNode) {
