@@ -12,3 +12,7 @@ class CGlobalAPI {
     /// is unchanged.
     static int m_fnMergeBuf(HBUF32 hOut, HBUF32 hWork, HBUF32 hExtra, int nPercent, HBUF32 hMask);
 };
+
+/// Copies the host's default font name, zero-terminated and cut to `nSize` bytes with its zero, into
+/// `pszName`. Answers 0, nothing being copied, when the host has none.
+int gfnGetDefaultFontNameFromQuorProd(char* pszName, int nSize);

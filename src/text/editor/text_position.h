@@ -1,0 +1,33 @@
+// Places and ranges in a text of lines.
+#pragma once
+
+#include <compare>
+
+/// A place between bytes: behind byte `nIndex` of the line, -1 being before its first byte.
+struct TextPosition {
+    int nLine = 0;
+    int nIndex = -1;
+
+    friend bool operator==(const TextPosition&, const TextPosition&) = default;
+    friend std::strong_ordering operator<=>(const TextPosition&, const TextPosition&) = default;
+};
+
+/// From `start` to `end`, in this order; it covers something when they differ.
+struct TextRange {
+    TextPosition start;
+    TextPosition end;
+
+    bool IsEmpty() const { return start == end; }
+    friend bool operator==(const TextRange&, const TextRange&) = default;
+};
+
+/// The part of a range on one line, as caret indices.
+struct LineSpan {
+    static constexpr int FromLineAbove = -2; ///< `nFrom` of a range that comes in from the line above
+
+    int nFrom = -1;
+    int nTo = -1; ///< the line's length when the range goes on to the line below
+
+    bool IsEmpty() const { return nFrom >= nTo; }
+    friend bool operator==(const LineSpan&, const LineSpan&) = default;
+};
