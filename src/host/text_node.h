@@ -3,6 +3,8 @@
 
 #include "host/img_node.h"
 
+class textObject;
+
 /// Alignment codes stored in a text object.
 namespace text_align_code {
 inline constexpr int Left = 1000;
@@ -24,6 +26,25 @@ class CTextNode : public CImgNode {
     void m_fnGetText(CString& strText) const;
     /// A newly allocated copy of the face name, to be freed with `delete[]`; null when memory is out.
     char* CloneFontName() const;
+
+    /// Takes the rendered text over: its buffers and attributes; the object is left empty. The node's effect
+    /// goes.
+    void m_fnAssign(textObject& object);
+    /// Moves everything of the other node into this one: picture, text, effect, position, display values,
+    /// links, rectangles and shadow parameters. Identity and place in the lists stay; buffers that this node
+    /// had are freed and the source is left without a picture and links.
+    void m_fnMoveMemberDataFrom(CTextNode* pOther);
+
+    /// Takes over the kind and colour of the other node's effect; nothing is drawn yet. Answers 1, or 0 for
+    /// null.
+    int m_fnCopyTextEffectFrom(const CTextNode* pOther);
+    /// Gives the effect another colour; nothing is drawn yet. Answers 1, or 0 for null.
+    int m_fnChangeTextEffectColor(const COLORREF* pcrColor);
+    /// Draws the text anew with its effect, which may change the node's size; the text's own pixels stay where
+    /// they are. Answers 1, also without an effect, or 0 when memory is out.
+    int m_fnRegenerateTextEffect();
+    /// 1 when the node has an effect, else 0.
+    int m_fnIsTextEffectApplied() const;
 
     std::int32_t m_nFontSize = 0; ///< pixels at full view scale
     std::int32_t m_nBold = 0;     ///< 1 on, 0 off; so the next two
