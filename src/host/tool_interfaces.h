@@ -143,3 +143,23 @@ struct ISelectOnly {
     /// Makes the node the only selected one; null deselects all.
     virtual int SelectOnly(CImgNode* pNode) = 0;
 };
+
+/// Of the text tools: the current text attributes, as the text page sets them.
+struct ITextAttributeTarget {
+    static constexpr GUID Id = {0x5D5721D3, 0xD8DA, 0x4CF2, {0x98, 0x4D, 0xCD, 0x47, 0x6E, 0x19, 0xD5, 0xB0}};
+    virtual int SetFontName(const CString& strName) = 0;
+    virtual int SetFontSize(int nPoints) = 0;
+    /// 0 left, 1 centre, 2 right; any other value counts as left.
+    virtual int SetAlignment(int nIndex) = 0;
+    /// 1 bold, 2 italic, 4 underline.
+    virtual int SetStyle(int nBits) = 0;
+    virtual int SetColor(COLORREF crText) = 0;
+};
+
+/// Of the tools that can edit a text object on the page.
+struct ITextEditEntry {
+    static constexpr GUID Id = {0xB5435B5F, 0xED79, 0x410D, {0x85, 0x99, 0xC4, 0xF0, 0x33, 0xEB, 0xC1, 0x83}};
+    /// Opens the object in the editor with the caret at the point. 1, or 0 when it is none to edit or no editor
+    /// can be made.
+    virtual int EditTextNode(CImgNode* pNode, const CPoint* pPoint) = 0;
+};

@@ -16,6 +16,19 @@ inline constexpr int Right = 2;
 inline constexpr int Mixed = 3; ///< shown when the selected objects differ
 } // namespace text_align
 
+/// Any index but centre and right counts as left.
+constexpr int KnownAlignment(int nIndex) {
+    return nIndex == text_align::Center || nIndex == text_align::Right ? nIndex : text_align::Left;
+}
+
+constexpr int AlignmentCodeOf(int nIndex) {
+    switch (nIndex) {
+    case text_align::Center: return text_align_code::Center;
+    case text_align::Right: return text_align_code::Right;
+    default: return text_align_code::Left;
+    }
+}
+
 /// Any code that is neither right nor centre counts as left.
 inline int AlignmentIndexOf(const CTextNode& node) {
     switch (node.m_nAlignment) {

@@ -8,10 +8,11 @@
 #include "host/drag_drop.h"
 #include "host/rich_text.h"
 #include "text/editor/line_store.h"
+#include "text/editor/text_layout.h"
 #include "text/editor/text_position.h"
+#include "text/text_style.h"
 
 class CInplaceEditor;
-class CTextMeasure;
 
 /// Told when an editor's input ends.
 class IInplaceEditorNotify {
@@ -22,13 +23,6 @@ class IInplaceEditorNotify {
   protected:
     ~IInplaceEditorNotify() = default;
 };
-
-/// How the lines stand to each other.
-namespace editor_align {
-inline constexpr int Left = 0;
-inline constexpr int Center = 1;
-inline constexpr int Right = 2;
-} // namespace editor_align
 
 /// Edits a text of ANSI bytes in one font, colour, style and alignment, a stack of lines. The window always has
 /// the size of the text; it stands at the anchor: the first line's vertical middle and, by alignment, the left
@@ -57,7 +51,7 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     /// 1 bold, 2 italic, 4 underline.
     void m_fnSetFontStyle(int nBits);
     void m_fnSetFontColor(COLORREF crText);
-    /// An editor_align. With a window the first line stays where it is, and other values keep the anchor;
+    /// A text_align index. With a window the first line stays where it is, and other values keep the anchor;
     /// without one the anchor becomes (0, 0).
     void m_fnSetTextAlignType(int nAlign);
     void m_fnGetFontName(CString& strName) const;
@@ -127,8 +121,7 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     bool IsCaretDrawn() const { return m_bCaretDrawn; }
 
   protected:
-    friend class CTextMeasure;
-
+    friend 
     // Font, measuring and placing. Rectangles of lines are client pixels.
     int m_fnRegenerateFont();
     void m_fnUpdateWindowPos();
@@ -179,8 +172,10 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     DECLARE_MESSAGE_MAP()
 
   private:
-    // Keys, by topic. The caret is drawn, or its enabled state kept, by the callers' last step.
+    // Keys. HandleKey is false for a key that is none of the editor's.
     bool HandleKey(UINT nKey);
+    bool HandleShortcut(UINT nKey);
+    void KeepOneLine();
     void Backspace();
     void JoinWithLineAbove();
     void BreakLine();
@@ -204,37 +199,52 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     int LastIndex() const { return m_strCurrent.GetLength() - 1; }
     bool IsHidden() const { return !m_hWnd || !IsWindowVisible(); }
 
-    // Caret places. GoTo neither draws nor erases.
+    // Caret places.
+    /// Moves the caret's place; pixels that show it move along.
     void GoTo(const TextPosition& position);
-    void PlaceCaret(const TextPosition& position);
-    void MoveCaretAcrossLines(const TextPosition& position);
-    void RepaintParent(const CRect& rcClient, BOOL bErase);
+    /// The same as a move of the person's: shows the caret and repaints where it stood.
+    void MoveCaretTo(const TextPosition& position);
+    /// Brings the caret's pixels to where the caret is, when they are on the window at all.
+    void SyncCaretPixels();
+    /// Makes the caret visible now; nothing while it is disabled or the window hidden.
+    void DrawCaretHere();
+    bool ToggleCaretPixels(const CRect& rcCaret);
+    void RepaintOnParent(const CRect& rcClient);
+    CRect RectInParent() const;
     void RepaintAllOnParent();
     int ExtentAt(int nIndex) const;
     TextPosition HitTest(const CPoint& point);
 
     // Selection.
-    TextRange Clamped(TextRange range) const;
+    TextRange ClampedRange(TextRange range) const;
+    void ForgetSelection();
     void RepaintChange(const TextRange& before, const TextRange& after);
-    CRect SpanRect(int nLine, int nFrom, int nTo);
+    void InvalidateChange(const CTextLayout& layout, const CRect& rcLine, const CString& strLine,
+                          const LineSpan& before, const LineSpan& after);
+    void InvalidateSpan(const CTextLayout& layout, const CRect& rcLine, const CString& strLine,
+                        const LineSpan& span);
     void ReplaceSelected(const CString& strText, int nRedraw);
     void InsertAtCaret(const CString& strText, int nRedraw);
-    void InsertIntoEmpty(const CString& strText, int nRedraw);
-    void JoinAround(const TextRange& range, const CString& strText);
+    void RedrawAfterChange(int nRedraw);
+    void SpliceRange(const TextRange& range, const CString& strText);
 
     // Layout.
-    CRect TextAreaOf(const CRect& rcBound);
-    CRect BoundOf(const CTextMeasure& measure) const;
-    CRect LineRectIn(const CRect& rcArea, const CSize& size, int nTop) const;
-    void PaintLines(CDC& dc, const CTextMeasure& measure);
-    void PaintLine(CDC& dc, const CTextMeasure& measure, int nLine, const CString& strLine,
-                   const CRect& rcLine);
-    void SelectTextModes(CDC& dc) const;
+    CTextLayout Measure() const;
+    TextFormat Format() const;
+    void PaintLines(CDC& dc);
+    void PaintLine(CDC& dc, const CTextLayout& layout, const CRect& rcLine, int nLine,
+                   const CString& strLine);
+    void PaintSelectedLine(CDC& dc, const CTextLayout& layout, const CRect& rcLine, const CString& strLine,
+                           const LineSpan& span);
+    void PaintBorder(CDC& dc);
+    void RestoreCaretPixels(CDC& dc);
+    void FontChanged();
     void FreeResources();
     void FreeOffsets();
-    void JoinTrimmedLines(const char* pszSeparator, CString& strText) const;
-    bool InitText(const CString& strText);
-    bool CreateRichEdit();
+    void JoinTrimmedLines(LPCSTR pszSeparator, CString& strText) const;
+    BOOL CreateEditorWindow(int nVisible);
+    BOOL CreateRichEdit();
+    void EnableExchange();
 
     // Drops.
     void EnterHover();
@@ -253,7 +263,7 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     int m_nItalic = 0;
     int m_nUnderline = 0;
     CString m_strFontName;
-    int m_nAlign = editor_align::Center;
+    int m_nAlign = text_align::Center;
     COLORREF m_crText = RGB(255, 255, 255);
     int m_nCaret = -1;
     int m_nCaretEnabled = 1;
@@ -281,5 +291,6 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     TextPosition m_savedCaret;
     int m_nSavedEnabled = 0;
     CString m_strStarting;
-    bool m_bCaretDrawn = false; ///< whether the XOR caret's pixels are on the window
+    bool m_bCaretDrawn = false; ///< whether the caret's toggled pixels are on the window
+    CRect m_rcDrawn;            ///< where they are, client pixels
 };

@@ -14,25 +14,34 @@ class CLineStore {
     int GetTrimmedLine(int nLine, CString& strLine) const;
     /// The line where it stands, or null outside the store. Good until the store changes.
     const CString* Find(int nLine) const;
+    /// The line's length in bytes; 0 outside the store.
+    int LengthOf(int nLine) const;
 
     /// Inserts the pieces of the text, parted at each LF, behind the line: -1 is before all, the count or more
     /// behind all. 1, or 0 when memory runs out; part of the text may then be inserted.
     int InsertText(int nAfter, const CString& strText);
-    /// Puts the pieces of the text in the line's place. 0 for a line past the end, else as InsertText.
+    /// Puts the pieces of the text in the line's place. 0 outside the store, else as InsertText.
     int ReplaceLine(int nLine, const CString& strText);
     void RemoveLine(int nLine);
+    /// The lines from `nFirst` on, `nCount` of them.
+    void RemoveLines(int nFirst, int nCount);
     void RemoveAll() { m_lines.RemoveAll(); }
 
-    /// Walking down: the position of a line, null past the end; Next answers its line and steps on.
+    /// Walking down or up: a place, null past the ends; Next and Prev answer its line and step on.
     POSITION Begin() const { return m_lines.GetHeadPosition(); }
-    const CString& Next(POSITION& position) const { return const_cast<CList&>(m_lines).GetNext(position); }
+    POSITION Last() const { return m_lines.GetTailPosition(); }
+    POSITION PositionOf(int nLine) const;
+    const CString& Next(POSITION& position) const { return Mutable().GetNext(position); }
+    const CString& Prev(POSITION& position) const { return Mutable().GetPrev(position); }
 
   private:
-    using CList = ::CList<CString, const CString&>;
+    using CLines = CList<CString, const CString&>;
 
-    POSITION PositionOf(int nLine) const;
+    // The list's own walk over a constant list copies each element.
+    CLines& Mutable() const { return const_cast<CLines&>(m_lines); }
+    int InsertPieces(POSITION after, const CString& strText);
 
-    CList m_lines;
+    CLines m_lines{10};
 };
 
 /// The text without the blanks (byte 32) at both ends; other white space stays.

@@ -17,7 +17,7 @@ struct TextRange {
     TextPosition start;
     TextPosition end;
 
-    bool IsEmpty() const { return start == end; }
+    constexpr bool IsEmpty() const { return start == end; }
     friend bool operator==(const TextRange&, const TextRange&) = default;
 };
 
@@ -28,6 +28,15 @@ struct LineSpan {
     int nFrom = -1;
     int nTo = -1; ///< the line's length when the range goes on to the line below
 
-    bool IsEmpty() const { return nFrom >= nTo; }
+    constexpr bool IsEmpty() const { return nFrom >= nTo; }
     friend bool operator==(const LineSpan&, const LineSpan&) = default;
 };
+
+/// The part of the range on a line of `nLength` bytes; empty where the range does not touch it.
+constexpr LineSpan SpanOnLine(const TextRange& range, int nLine, int nLength) {
+    if (range.IsEmpty() || nLine < range.start.nLine || nLine > range.end.nLine) {
+        return {};
+    }
+    return {nLine == range.start.nLine ? range.start.nIndex : LineSpan::FromLineAbove,
+            nLine == range.end.nLine ? range.end.nIndex : nLength};
+}

@@ -1,0 +1,8 @@
+// Characters of two bytes in the system code page.
+#pragma once
+
+#include <afxwin.h>
+
+/// Whether byte `nIndex` of the line begins a two-byte character, counted from the line's first byte on. A lead
+/// byte at the line's end counts; false outside the line.
+bool IsLeadAt(const CString& strLine, int nIndex);
