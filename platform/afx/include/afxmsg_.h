@@ -16,7 +16,9 @@ enum AfxSig : UINT {
     AfxSig_vv,      ///< void ()
     AfxSig_bD,      ///< BOOL (CDC*)
     AfxSig_is,      ///< int (LPCREATESTRUCT)
+    AfxSig_wv,      ///< UINT ()
     AfxSig_vw,      ///< void (UINT)
+    AfxSig_vbw,     ///< void (BOOL, UINT)
     AfxSig_vwii,    ///< void (UINT, int, int)
     AfxSig_vwp,     ///< void (UINT, CPoint)
     AfxSig_vwww,    ///< void (UINT, UINT, UINT)
@@ -32,7 +34,9 @@ union AFX_MSGHANDLER {
     void (CWnd::*pfn_vv)();
     BOOL (CWnd::*pfn_bD)(CDC*);
     int (CWnd::*pfn_is)(LPCREATESTRUCT);
+    UINT (CWnd::*pfn_wv)();
     void (CWnd::*pfn_vw)(UINT);
+    void (CWnd::*pfn_vbw)(BOOL, UINT);
     void (CWnd::*pfn_vwii)(UINT, int, int);
     void (CWnd::*pfn_vwp)(UINT, CPoint);
     void (CWnd::*pfn_vwww)(UINT, UINT, UINT);
@@ -44,7 +48,9 @@ union AFX_MSGHANDLER {
     constexpr AFX_MSGHANDLER(void (CWnd::*pfn)()) : pfn_vv(pfn) {}
     constexpr AFX_MSGHANDLER(BOOL (CWnd::*pfn)(CDC*)) : pfn_bD(pfn) {}
     constexpr AFX_MSGHANDLER(int (CWnd::*pfn)(LPCREATESTRUCT)) : pfn_is(pfn) {}
+    constexpr AFX_MSGHANDLER(UINT (CWnd::*pfn)()) : pfn_wv(pfn) {}
     constexpr AFX_MSGHANDLER(void (CWnd::*pfn)(UINT)) : pfn_vw(pfn) {}
+    constexpr AFX_MSGHANDLER(void (CWnd::*pfn)(BOOL, UINT)) : pfn_vbw(pfn) {}
     constexpr AFX_MSGHANDLER(void (CWnd::*pfn)(UINT, int, int)) : pfn_vwii(pfn) {}
     constexpr AFX_MSGHANDLER(void (CWnd::*pfn)(UINT, CPoint)) : pfn_vwp(pfn) {}
     constexpr AFX_MSGHANDLER(void (CWnd::*pfn)(UINT, UINT, UINT)) : pfn_vwww(pfn) {}
@@ -93,6 +99,8 @@ struct AFX_MSGMAP {
 #define ON_WM_SIZE() {WM_SIZE, AfxSig_vwii, AFX_HANDLER(void(CWnd::*)(UINT, int, int), OnSize)},
 #define ON_WM_SETFOCUS() {WM_SETFOCUS, AfxSig_vW, AFX_HANDLER(void(CWnd::*)(CWnd*), OnSetFocus)},
 #define ON_WM_KILLFOCUS() {WM_KILLFOCUS, AfxSig_vW, AFX_HANDLER(void(CWnd::*)(CWnd*), OnKillFocus)},
+#define ON_WM_SHOWWINDOW() {WM_SHOWWINDOW, AfxSig_vbw, AFX_HANDLER(void(CWnd::*)(BOOL, UINT), OnShowWindow)},
+#define ON_WM_GETDLGCODE() {WM_GETDLGCODE, AfxSig_wv, AFX_HANDLER(UINT(CWnd::*)(), OnGetDlgCode)},
 #define ON_WM_PAINT() {WM_PAINT, AfxSig_vv, AFX_HANDLER(void(CWnd::*)(), OnPaint)},
 #define ON_WM_ERASEBKGND() {WM_ERASEBKGND, AfxSig_bD, AFX_HANDLER(BOOL(CWnd::*)(CDC*), OnEraseBkgnd)},
 #define ON_WM_SETCURSOR()                                                                                    \

@@ -57,6 +57,8 @@ class CWnd : public CCmdTarget {
     BOOL CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle,
                   const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam = nullptr);
     virtual BOOL DestroyWindow();
+    /// Sees a message before it is dispatched (see AfxPreTranslateMessage); TRUE when it has dealt with it.
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongA(m_hWnd, GWL_STYLE)); }
 
@@ -68,6 +70,15 @@ class CWnd : public CCmdTarget {
     }
     /// The message being handled; null outside of handlers.
     static const MSG* GetCurrentMessage();
+
+    /// The title, or what an edit control holds.
+    void SetWindowText(LPCSTR lpszString) { ::SetWindowTextA(m_hWnd, lpszString); }
+    void GetWindowText(CString& rString) const;
+    /// Copies at most `nMaxCount` bytes with the closing zero; answers the length copied.
+    int GetWindowText(LPSTR lpszString, int nMaxCount) const {
+        return ::GetWindowTextA(m_hWnd, lpszString, nMaxCount);
+    }
+    int GetWindowTextLength() const { return ::GetWindowTextLengthA(m_hWnd); }
 
     void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
     void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, lpRect, bErase); }
@@ -129,6 +140,8 @@ class CWnd : public CCmdTarget {
     afx_msg void OnSize(UINT, int, int) { Default(); }
     afx_msg void OnSetFocus(CWnd*) { Default(); }
     afx_msg void OnKillFocus(CWnd*) { Default(); }
+    afx_msg void OnShowWindow(BOOL, UINT) { Default(); }
+    afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
     afx_msg void OnPaint() { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return static_cast<BOOL>(Default()); }
     afx_msg BOOL OnSetCursor(CWnd*, UINT, UINT) { return static_cast<BOOL>(Default()); }
@@ -165,6 +178,10 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
 
 /// Gives the message to the object's WindowProc. The object may be gone afterwards.
 LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// Offers the message to the objects of its window and of the windows above, parents and owners, until one
+/// deals with it. TRUE when one did: the message is then not to be translated or dispatched.
+BOOL AfxPreTranslateMessage(MSG* pMsg);
 
 /// The name of a window class with these values, registered at its first use. It is good until the next call;
 /// null on failure.

@@ -119,7 +119,9 @@ LRESULT CWnd::CallHandler(const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM l
     case AfxSig_vv: return (this->*handler.pfn_vv)(), 0;
     case AfxSig_bD: return CallEraseBkgnd(handler.pfn_bD, reinterpret_cast<HDC>(wParam));
     case AfxSig_is: return (this->*handler.pfn_is)(reinterpret_cast<LPCREATESTRUCT>(lParam));
+    case AfxSig_wv: return (this->*handler.pfn_wv)();
     case AfxSig_vw: return (this->*handler.pfn_vw)(nParam), 0;
+    case AfxSig_vbw: return (this->*handler.pfn_vbw)(wParam != 0, static_cast<UINT>(lParam)), 0;
     case AfxSig_vwii: {
         const int cx = static_cast<int>(LowWord(lParam));
         const int cy = static_cast<int>(HighWord(lParam));

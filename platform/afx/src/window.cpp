@@ -72,6 +72,25 @@ void CWnd::OnNcDestroy() {
 
 void CWnd::PostNcDestroy() {}
 
+BOOL CWnd::PreTranslateMessage(MSG*) { return FALSE; }
+
+BOOL AfxPreTranslateMessage(MSG* pMsg) {
+    // A window that goes meanwhile has no parent any more, which ends the walk.
+    for (HWND hWnd = pMsg->hwnd; hWnd != nullptr; hWnd = ::GetParent(hWnd)) {
+        CWnd* const pWnd = CWnd::FromHandlePermanent(hWnd);
+        if (pWnd != nullptr && pWnd->PreTranslateMessage(pMsg)) {
+            return TRUE;
+        }
+    }
+    return FALSE;
+}
+
+void CWnd::GetWindowText(CString& rString) const {
+    const int nLength = GetWindowTextLength();
+    const int nCopied = GetWindowText(rString.GetBuffer(nLength), nLength + 1);
+    rString.ReleaseBuffer(nCopied);
+}
+
 void CWnd::ClientToScreen(LPRECT lpRect) const {
     POINT origin = {0, 0};
     ::ClientToScreen(m_hWnd, &origin);

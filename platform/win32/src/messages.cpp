@@ -68,7 +68,14 @@ LRESULT DispatchMessageA(const MSG* message) {
 
 LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    case WM_NCCREATE: return TRUE;
+    case WM_NCCREATE:
+        if (lParam) {
+            SetTitle(handle, reinterpret_cast<const CREATESTRUCTA*>(lParam)->lpszName);
+        }
+        return TRUE;
+    case WM_SETTEXT: return SetTitle(handle, reinterpret_cast<LPCSTR>(lParam));
+    case WM_GETTEXT: return CopyTitle(handle, wParam, reinterpret_cast<LPSTR>(lParam));
+    case WM_GETTEXTLENGTH: return TitleLength(handle);
     case WM_ERASEBKGND: return EraseBackground(handle, reinterpret_cast<HDC>(wParam));
     case WM_PAINT: {
         PAINTSTRUCT paint;

@@ -34,6 +34,7 @@ struct Window {
     LONG_PTR id = 0;
     LONG_PTR userData = 0;
     bool destroying = false;
+    std::string title;
 
     Window* parent = nullptr; // Null for a top-level window.
     HWND owner = nullptr;     // The window that a pop-up belongs to and goes with.
@@ -78,6 +79,13 @@ RECT PlaceOf(int x, int y, int width, int height);
 
 /// Null, and error 1407, when there is no such class. The name may be an atom.
 WindowClass* FindClass(LPCSTR name);
+
+/// The default treatment of WM_SETTEXT, WM_GETTEXT (`room` counts the closing zero) and WM_GETTEXTLENGTH.
+LRESULT SetTitle(HWND handle, LPCSTR text);
+LRESULT CopyTitle(HWND handle, SIZE_T room, LPSTR out);
+LRESULT TitleLength(HWND handle);
+/// Copies what fits with its zero; the length copied.
+LRESULT CopyText(const std::string& text, SIZE_T room, LPSTR out);
 
 /// Gives the window's surface the size of its place, keeping what both have. False when memory is short.
 bool SizeSurface(Window& window, int oldWidth, int oldHeight);

@@ -6,6 +6,7 @@
 
 constexpr DWORD ERROR_SUCCESS = 0;
 constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
+constexpr DWORD ERROR_ACCESS_DENIED = 5;
 constexpr DWORD ERROR_INVALID_HANDLE = 6;
 constexpr DWORD ERROR_NOT_ENOUGH_MEMORY = 8;
 constexpr DWORD ERROR_INVALID_PARAMETER = 87;
@@ -20,6 +21,7 @@ constexpr DWORD ERROR_CLASS_ALREADY_EXISTS = 1410;
 constexpr DWORD ERROR_CLASS_DOES_NOT_EXIST = 1411;
 constexpr DWORD ERROR_CLASS_HAS_WINDOWS = 1412;
 constexpr DWORD ERROR_INVALID_INDEX = 1413;
+constexpr DWORD ERROR_CLIPBOARD_NOT_OPEN = 1418;
 
 /// The code of the last call that failed; a call that succeeds does not clear it.
 DWORD GetLastError();
@@ -64,6 +66,8 @@ BOOL GlobalUnlock(HGLOBAL block);
 /// Null on success, the handle itself when it is no block's.
 HGLOBAL GlobalFree(HGLOBAL block);
 SIZE_T GlobalSize(HGLOBAL block);
+/// The handle of the block whose bytes start at the address; null and error 6 for any other address.
+HGLOBAL GlobalHandle(LPCVOID bytes);
 
 /// Milliseconds of the clock in force (see platform/clock.h).
 DWORD GetTickCount();

@@ -23,6 +23,9 @@ inline HWND CreateWindowEx(DWORD exStyle, LPCSTR className, LPCSTR name, DWORD s
     return CreateWindowExA(exStyle, className, name, style, x, y, width, height, parent, menu, instance,
                            param);
 }
+inline BOOL SetWindowText(HWND window, LPCSTR text) { return SetWindowTextA(window, text); }
+inline int GetWindowText(HWND window, LPSTR buffer, int size) { return GetWindowTextA(window, buffer, size); }
+inline int GetWindowTextLength(HWND window) { return GetWindowTextLengthA(window); }
 inline LONG GetWindowLong(HWND window, int index) { return GetWindowLongA(window, index); }
 inline LONG SetWindowLong(HWND window, int index, LONG value) { return SetWindowLongA(window, index, value); }
 inline LONG_PTR GetWindowLongPtr(HWND window, int index) { return GetWindowLongPtrA(window, index); }

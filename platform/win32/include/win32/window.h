@@ -164,6 +164,13 @@ constexpr int GCLP_HBRBACKGROUND = GCL_HBRBACKGROUND;
 constexpr int GCLP_HCURSOR = GCL_HCURSOR;
 constexpr int GCLP_WNDPROC = GCL_WNDPROC;
 
+// What a window answers WM_GETDLGCODE with: the keys that it wants for itself.
+constexpr UINT DLGC_WANTARROWS = 0x0001;
+constexpr UINT DLGC_WANTTAB = 0x0002;
+constexpr UINT DLGC_WANTALLKEYS = 0x0004;
+constexpr UINT DLGC_HASSETSEL = 0x0008;
+constexpr UINT DLGC_WANTCHARS = 0x0080;
+
 constexpr UINT PM_NOREMOVE = 0x0000;
 constexpr UINT PM_REMOVE = 0x0001;
 constexpr UINT PM_NOYIELD = 0x0002;
@@ -247,6 +254,13 @@ BOOL ScreenToClient(HWND window, LPPOINT point);
 /// does, null when the point lies outside it.
 HWND ChildWindowFromPoint(HWND parent, POINT point);
 
+/// A window's text by WM_SETTEXT, WM_GETTEXT and WM_GETTEXTLENGTH: by default its title, for an edit control
+/// what it holds. Null is the empty text.
+BOOL SetWindowTextA(HWND window, LPCSTR text);
+/// Copies at most `size` bytes with the closing zero; answers the length copied.
+int GetWindowTextA(HWND window, LPSTR buffer, int size);
+int GetWindowTextLengthA(HWND window);
+
 /// Fields of a window. The 32-bit forms refuse GWL_WNDPROC (error 1413), which is a pointer here.
 LONG GetWindowLongA(HWND window, int index);
 LONG SetWindowLongA(HWND window, int index, LONG value);
@@ -261,7 +275,8 @@ ULONG_PTR SetClassLongPtrA(HWND window, int index, LONG_PTR value);
 
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 /// WM_NCCREATE answers TRUE, WM_ERASEBKGND fills with the class's brush, WM_PAINT validates, WM_SETCURSOR
-/// sets the class's cursor, WM_CLOSE destroys; anything else answers 0.
+/// sets the class's cursor, WM_CLOSE destroys, WM_SETTEXT and its kin keep the title, which starts as the
+/// name given at creation; anything else answers 0.
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 

@@ -1,0 +1,87 @@
+#pragma once
+
+// The rich-edit control, version 1: the window class "RICHEDIT". A position counts bytes, a line's end (CR
+// LF) two. It is a store of text and formats; it does not paint and takes no input.
+
+#include "win32/types.h"
+#include "win32/window.h"
+
+constexpr DWORD ES_MULTILINE = 0x0004;
+constexpr DWORD ES_AUTOVSCROLL = 0x0040;
+constexpr DWORD ES_AUTOHSCROLL = 0x0080;
+constexpr DWORD ES_NOHIDESEL = 0x0100;
+constexpr DWORD ES_OEMCONVERT = 0x0400;
+constexpr DWORD ES_WANTRETURN = 0x1000;
+constexpr DWORD ES_SAVESEL = 0x8000;
+
+/// Start in *(DWORD*)wParam and end in *(DWORD*)lParam, where not null; answers both as words.
+constexpr UINT EM_GETSEL = 0x00B0;
+/// As EM_EXSETSEL, start in wParam and end in lParam.
+constexpr UINT EM_SETSEL = 0x00B1;
+/// At least 1; an empty line at the end counts.
+constexpr UINT EM_GETLINECOUNT = 0x00BA;
+/// The start of line wParam (-1: the one in which the selection starts); -1 when there is none.
+constexpr UINT EM_LINEINDEX = 0x00BB;
+/// The length of the line that holds position wParam, without its end.
+constexpr UINT EM_LINELENGTH = 0x00C1;
+/// Puts the zero-terminated text at lParam in the selection's place, and the empty selection behind it.
+constexpr UINT EM_REPLACESEL = 0x00C2;
+/// Copies line wParam without its end and without a zero to lParam, whose first word says how many bytes it
+/// takes. An empty line reads as a bare CR. The bytes copied; 0 when there is no such line.
+constexpr UINT EM_GETLINE = 0x00C4;
+/// The selection, to the CHARRANGE at lParam.
+constexpr UINT EM_EXGETSEL = WM_USER + 52;
+/// Selects the CHARRANGE at lParam, brought into the text; an end of -1 is the text's, a start of -1 leaves
+/// nothing selected at the former end. Answers the end.
+constexpr UINT EM_EXSETSEL = WM_USER + 55;
+/// To the CHARFORMAT at lParam: the default format (wParam 0), or that of the selection's first character,
+/// its mask without what differs in the selection (1). Answers the mask; 0 for another cbSize.
+constexpr UINT EM_GETCHARFORMAT = WM_USER + 58;
+/// Copies the selected text and a zero to lParam; the bytes copied without the zero.
+constexpr UINT EM_GETSELTEXT = WM_USER + 62;
+/// Accepted; there is nothing to hide.
+constexpr UINT EM_HIDESELECTION = WM_USER + 63;
+/// Sets what the mask of the CHARFORMAT at lParam names in an SCF_ place; 1, or 0 for another cbSize.
+constexpr UINT EM_SETCHARFORMAT = WM_USER + 68;
+
+// Of what EM_SETCHARFORMAT sets the format: of text to come in an empty control, of the selection (an empty
+// one: of what is put there next), of the whole text.
+constexpr UINT SCF_DEFAULT = 0x0000;
+constexpr UINT SCF_SELECTION = 0x0001;
+constexpr UINT SCF_ALL = 0x0004;
+
+constexpr DWORD CFM_BOLD = 0x00000001;
+constexpr DWORD CFM_ITALIC = 0x00000002;
+constexpr DWORD CFM_UNDERLINE = 0x00000004;
+constexpr DWORD CFM_STRIKEOUT = 0x00000008;
+constexpr DWORD CFM_PROTECTED = 0x00000010;
+constexpr DWORD CFM_CHARSET = 0x08000000;
+constexpr DWORD CFM_OFFSET = 0x10000000;
+constexpr DWORD CFM_FACE = 0x20000000;
+constexpr DWORD CFM_COLOR = 0x40000000;
+constexpr DWORD CFM_SIZE = 0x80000000;
+constexpr DWORD CFE_BOLD = 0x00000001;
+constexpr DWORD CFE_ITALIC = 0x00000002;
+constexpr DWORD CFE_UNDERLINE = 0x00000004;
+constexpr DWORD CFE_STRIKEOUT = 0x00000008;
+constexpr DWORD CFE_PROTECTED = 0x00000010;
+constexpr DWORD CFE_AUTOCOLOR = 0x40000000;
+
+/// Positions in the text: from `cpMin` up to, not with, `cpMax`.
+typedef struct _charrange {
+    LONG cpMin;
+    LONG cpMax;
+} CHARRANGE;
+
+typedef struct _charformat {
+    UINT cbSize;     ///< sizeof(CHARFORMATA)
+    DWORD dwMask;    ///< CFM_: what holds
+    DWORD dwEffects; ///< CFE_
+    LONG yHeight;    ///< twips
+    LONG yOffset;    ///< twips above the baseline
+    COLORREF crTextColor;
+    BYTE bCharSet;
+    BYTE bPitchAndFamily; ///< goes with the face
+    char szFaceName[32];
+} CHARFORMATA, CHARFORMAT;
+static_assert(sizeof(CHARFORMATA) == 60);
