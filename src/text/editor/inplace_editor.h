@@ -250,10 +250,15 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     void EnterHover();
     void LeaveHover();
     void ShowDropPlace(const CPoint& point);
+    /// The drop_effect that the hovering drag would have.
+    DWORD DropEffect() const { return m_nDropMoves != 0 ? drop_effect::Move : drop_effect::Copy; }
+    /// Hides the caret when it is enabled, and tells whether it was.
+    bool HideShownCaret();
 
     // Export.
     void PrepareRichEdit(int nTwips);
     void DropEmptyLastLines();
+    void DrawStackedLines(CDC& dc);
 
     CWnd* m_pParentWnd = nullptr; ///< not owned
     CPoint m_ptAnchor;            ///< client pixels of the parent
