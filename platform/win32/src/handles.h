@@ -61,6 +61,17 @@ class CHandleTable {
         return object;
     }
 
+    /// The handle of the first object that fits; 0 when none does. Its time grows with the objects there are.
+    template <typename Predicate>
+    UINT_PTR HandleWhere(Predicate fits) const {
+        for (unsigned slot = 1; slot < m_neverUsed; ++slot) {
+            if (m_slots[slot].object && fits(*m_slots[slot].object)) {
+                return HandleValue(Kind, slot, m_slots[slot].use);
+            }
+        }
+        return 0;
+    }
+
     unsigned Count() const { return m_count; }
 
   private:

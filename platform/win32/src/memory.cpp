@@ -1,6 +1,8 @@
 #include "memory_blocks.h"
 #include "size_limits.h"
 
+#include "platform/faults.h"
+
 #include <cstdlib>
 #include <new>
 
@@ -17,8 +19,8 @@ using win32::g_globalBlocks;
 using win32::GlobalBlock;
 
 HGLOBAL GlobalAlloc(UINT flags, SIZE_T size) {
-    std::unique_ptr<GlobalBlock> block(size <= win32::LargestBlock ? new (std::nothrow) GlobalBlock
-                                                                   : nullptr);
+    const bool refused = size > win32::LargestBlock || platform::FaultTrips("record");
+    std::unique_ptr<GlobalBlock> block(refused ? nullptr : new (std::nothrow) GlobalBlock);
     const SIZE_T room = size == 0 ? 1 : size;
     if (block) {
         block->bytes = flags & GMEM_ZEROINIT ? std::calloc(room, 1) : std::malloc(room);
@@ -63,4 +65,13 @@ HGLOBAL GlobalFree(HGLOBAL handle) {
 SIZE_T GlobalSize(HGLOBAL handle) {
     const GlobalBlock* block = g_globalBlocks.Find(handle);
     return block ? block->size : static_cast<SIZE_T>(FailWith(ERROR_INVALID_HANDLE));
+}
+
+HGLOBAL GlobalHandle(LPCVOID bytes) {
+    const UINT_PTR handle =
+        g_globalBlocks.HandleWhere([bytes](const GlobalBlock& b) { return b.bytes == bytes; });
+    if (handle == 0) {
+        FailWith(ERROR_INVALID_HANDLE);
+    }
+    return reinterpret_cast<HGLOBAL>(handle);
 }

@@ -46,3 +46,18 @@ TEST(Memory, FreedBlockIsKnownAsFreed) {
     GlobalFree(next);
     EXPECT_EQ(platform::CountLive().globalBlocks, before);
 }
+
+TEST(Memory, BlockIsFoundByWhereItsBytesStart) {
+    const HGLOBAL first = GlobalAlloc(GMEM_FIXED, 4);
+    const HGLOBAL second = GlobalAlloc(GMEM_MOVEABLE, 4);
+    const char* bytes = static_cast<const char*>(GlobalLock(second));
+
+    EXPECT_EQ(GlobalHandle(bytes), second);
+    EXPECT_EQ(GlobalHandle(GlobalLock(first)), first);
+    EXPECT_EQ(GlobalHandle(bytes + 1), nullptr);
+    EXPECT_EQ(GetLastError(), ERROR_INVALID_HANDLE);
+
+    GlobalFree(first);
+    GlobalFree(second);
+    EXPECT_EQ(GlobalHandle(nullptr), nullptr);
+}

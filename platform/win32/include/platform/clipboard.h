@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 namespace platform {
@@ -8,8 +7,8 @@ namespace platform {
 /// Where the clipboard's text is kept. Texts hold no zero.
 struct IClipboard {
     virtual bool HasText() = 0;
-    /// Nothing when there is no text.
-    virtual std::optional<std::string> Text() = 0;
+    /// Null when there is no text. It stays the clipboard's and is good until the next call.
+    virtual const std::string* Text() = 0;
     virtual void SetText(std::string text) = 0;
     virtual void Clear() = 0;
 
