@@ -105,13 +105,12 @@ void FreeBuffer(HBUF32* phBuf) {
 int CInplaceEditor::m_fnGetBuffer(HBUF32* phImage, HBUF32* phMask) {
     *phImage = 0;
     *phMask = 0;
-    CRect rcBound;
-    m_fnGetTextBoundRect(rcBound);
-    CTextPicture picture(rcBound.Size(), m_crText);
+    const CTextLayout layout = Measure();
+    CTextPicture picture(layout.BoundAt(m_ptAnchor).Size(), m_crText);
     if (!picture) {
         return 0;
     }
-    DrawStackedLines(picture.DC());
+    DrawStackedLines(picture.DC(), layout);
     if (picture.Isolate() && picture.CopyMask(phMask) && picture.CopyField(phImage)) {
         return 1;
     }
@@ -121,8 +120,7 @@ int CInplaceEditor::m_fnGetBuffer(HBUF32* phImage, HBUF32* phMask) {
 }
 
 // Each line at the left end at which the window shows it, the first one at the top.
-void CInplaceEditor::DrawStackedLines(CDC& dc) {
-    const CTextLayout layout = Measure();
+void CInplaceEditor::DrawStackedLines(CDC& dc, const CTextLayout& layout) {
     const CRect rcArea = layout.Area();
     const int nSaved = dc.SaveDC();
     SelectTextFormat(dc, Format(), TA_LEFT | TA_TOP);

@@ -258,7 +258,7 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     // Export.
     void PrepareRichEdit(int nTwips);
     void DropEmptyLastLines();
-    void DrawStackedLines(CDC& dc);
+    void DrawStackedLines(CDC& dc, const CTextLayout& layout);
 
     CWnd* m_pParentWnd = nullptr; ///< not owned
     CPoint m_ptAnchor;            ///< client pixels of the parent
