@@ -1,3 +1,4 @@
+#include "richedit/control.h"
 #include "window_tree.h"
 
 #include <strings.h>
@@ -11,8 +12,24 @@ namespace win32 {
 // Atoms of registered names start here; smaller ones are integers.
 constexpr ATOM FirstAtom = 0xC000;
 
-static std::vector<std::unique_ptr<WindowClass>>& Classes() {
-    static auto& classes = *new std::vector<std::unique_ptr<WindowClass>>;
+using ClassList = std::vector<std::unique_ptr<WindowClass>>;
+
+static ATOM TakeAtom() {
+    static ATOM next = FirstAtom;
+    return next++;
+}
+
+static ClassList* SystemClasses() {
+    auto* classes = new ClassList;
+    classes->push_back(MakeRichEditClass());
+    classes->back()->atom = TakeAtom();
+    // Counted as a window that lives for ever, so that nobody takes the class away.
+    classes->back()->windows = 1;
+    return classes;
+}
+
+static ClassList& Classes() {
+    static auto& classes = *SystemClasses();
     return classes;
 }
 
@@ -54,7 +71,6 @@ ATOM RegisterClassA(const WNDCLASSA* windowClass) {
     if (Lookup(windowClass->lpszClassName)) {
         return static_cast<ATOM>(FailWith(ERROR_CLASS_ALREADY_EXISTS));
     }
-    static ATOM nextAtom = FirstAtom;
     auto added = std::make_unique<WindowClass>();
     added->record = *windowClass;
     added->name = windowClass->lpszClassName;
@@ -63,7 +79,7 @@ ATOM RegisterClassA(const WNDCLASSA* windowClass) {
         added->menuName = windowClass->lpszMenuName;
         added->record.lpszMenuName = added->menuName.c_str();
     }
-    added->atom = nextAtom++;
+    added->atom = TakeAtom();
     Classes().push_back(std::move(added));
     return Classes().back()->atom;
 }

@@ -19,6 +19,11 @@ struct WindowClass {
 
 struct Window;
 
+/// What a class of the system keeps with a window.
+struct ControlData {
+    virtual ~ControlData() = default;
+};
+
 struct Siblings {
     Window* top = nullptr;
     Window* bottom = nullptr;
@@ -35,6 +40,7 @@ struct Window {
     LONG_PTR userData = 0;
     bool destroying = false;
     std::string title;
+    std::unique_ptr<ControlData> control;
 
     Window* parent = nullptr; // Null for a top-level window.
     HWND owner = nullptr;     // The window that a pop-up belongs to and goes with.

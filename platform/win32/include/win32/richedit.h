@@ -1,7 +1,8 @@
 #pragma once
 
 // The rich-edit control, version 1: the window class "RICHEDIT". A position counts bytes, a line's end (CR
-// LF) two. It is a store of text and formats; it does not paint and takes no input.
+// LF) two; in text that is given a lone CR or LF becomes one, and no change leaves half of one. It is a store
+// of text and formats; it does not paint and takes no input.
 
 #include "win32/types.h"
 #include "win32/window.h"
@@ -24,15 +25,16 @@ constexpr UINT EM_GETLINECOUNT = 0x00BA;
 constexpr UINT EM_LINEINDEX = 0x00BB;
 /// The length of the line that holds position wParam, without its end.
 constexpr UINT EM_LINELENGTH = 0x00C1;
-/// Puts the zero-terminated text at lParam in the selection's place, and the empty selection behind it.
+/// Puts the zero-terminated text at lParam in the selection's place, and the empty selection behind it. 0
+/// when memory is short.
 constexpr UINT EM_REPLACESEL = 0x00C2;
 /// Copies line wParam without its end and without a zero to lParam, whose first word says how many bytes it
 /// takes. An empty line reads as a bare CR. The bytes copied; 0 when there is no such line.
 constexpr UINT EM_GETLINE = 0x00C4;
 /// The selection, to the CHARRANGE at lParam.
 constexpr UINT EM_EXGETSEL = WM_USER + 52;
-/// Selects the CHARRANGE at lParam, brought into the text; an end of -1 is the text's, a start of -1 leaves
-/// nothing selected at the former end. Answers the end.
+/// Selects the CHARRANGE at lParam, brought into the text and in order; an end of -1 is the text's. Answers
+/// the end.
 constexpr UINT EM_EXSETSEL = WM_USER + 55;
 /// To the CHARFORMAT at lParam: the default format (wParam 0), or that of the selection's first character,
 /// its mask without what differs in the selection (1). Answers the mask; 0 for another cbSize.
@@ -44,8 +46,8 @@ constexpr UINT EM_HIDESELECTION = WM_USER + 63;
 /// Sets what the mask of the CHARFORMAT at lParam names in an SCF_ place; 1, or 0 for another cbSize.
 constexpr UINT EM_SETCHARFORMAT = WM_USER + 68;
 
-// Of what EM_SETCHARFORMAT sets the format: of text to come in an empty control, of the selection (an empty
-// one: of what is put there next), of the whole text.
+// Of what EM_SETCHARFORMAT sets the format: of text that WM_SETTEXT or an empty control gets, of the
+// selection (an empty one: of what is put there next), of the whole text.
 constexpr UINT SCF_DEFAULT = 0x0000;
 constexpr UINT SCF_SELECTION = 0x0001;
 constexpr UINT SCF_ALL = 0x0004;

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "window_tree.h"
+
+namespace win32 {
+
+/// The class "RICHEDIT" (see win32/richedit.h).
+std::unique_ptr<WindowClass> MakeRichEditClass();
+
+} // namespace win32
