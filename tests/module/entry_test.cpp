@@ -1,7 +1,9 @@
 // The built module file: what it exports, which tools it hands over, and how it comes and goes.
+#include <cxxabi.h>
 #include <elf.h>
 
 #include <array>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <iterator>
@@ -45,6 +47,56 @@ std::set<std::string> ExportedNames(const std::vector<char>& elf) {
     }
     return names;
 }
+
+/// As a person writes the name, without arguments; C names stay.
+std::string ReadableName(const std::string& name) {
+    int nStatus = 0;
+    const std::unique_ptr<char, decltype(&std::free)> text(
+        abi::__cxa_demangle(name.c_str(), nullptr, nullptr, &nStatus), &std::free);
+    const std::string readable = text ? text.get() : name;
+    return readable.substr(0, readable.find('('));
+}
+
+/// Whether it is a member, a thunk or the run-time data of the exported class.
+bool IsEditorsOwn(const std::string& readable) {
+    static const std::set<std::string> data = {"vtable for CInplaceEditor", "typeinfo for CInplaceEditor",
+                                               "typeinfo name for CInplaceEditor"};
+    const std::string thunk = "non-virtual thunk to ";
+    const std::string member = readable.substr(readable.rfind(thunk, 0) == 0 ? thunk.size() : 0);
+    return data.count(readable) == 1 || member.rfind("CInplaceEditor::", 0) == 0;
+}
+
+/// What a host reaches of the editor by name, without the class's name before it.
+constexpr std::array EditorOperations = {
+    "CInplaceEditor",
+    "~CInplaceEditor",
+    "m_fnCenterWindow",
+    "m_fnConvertFontPixelToNearestPoint",
+    "m_fnConvertFontPointToPixel",
+    "m_fnCreate",
+    "m_fnEndInput",
+    "m_fnGetBuffer",
+    "m_fnGetDispdpi",
+    "m_fnGetFontName",
+    "m_fnGetFontSizeInPoint",
+    "m_fnGetRichText",
+    "m_fnGetSelectedText",
+    "m_fnGetText",
+    "m_fnGetText2",
+    "m_fnGetTextBoundRect",
+    "m_fnMoveCursorTo",
+    "m_fnPix2Twip",
+    "m_fnReplaceSelectRange",
+    "m_fnSetFont",
+    "m_fnSetFontColor",
+    "m_fnSetFontSizeInPixel",
+    "m_fnSetFontSizeInPoint",
+    "m_fnSetFontStyle",
+    "m_fnSetSelectRange",
+    "m_fnSetText",
+    "m_fnSetTextAlignType",
+    "m_fnTwip2Pix",
+};
 
 /// A host that keeps what it is handed and says no to everything.
 class CRefusingCategory : public IToolCategory {
@@ -100,12 +152,23 @@ std::vector<unsigned> ClassIds(const CRefusingCategory& category) {
     return ids;
 }
 
-TEST_F(ModuleEntry, ExportsTheEntryAndTheLoadersAlone) {
+TEST_F(ModuleEntry, ExportsTheEntryTheLoadersAndTheEditorAlone) {
     const std::vector<char> elf = BytesBesideProgram(ModuleFile);
     ASSERT_GT(elf.size(), sizeof(Elf64_Ehdr));
     ASSERT_EQ(std::memcmp(elf.data(), ELFMAG, SELFMAG), 0);
 
-    EXPECT_EQ(ExportedNames(elf), (std::set<std::string>{"DllMain", "g_fnLoadAndLinkToolCat"}));
+    std::set<std::string> others;
+    std::set<std::string> editors;
+    for (const std::string& name : ExportedNames(elf)) {
+        const std::string readable = ReadableName(name);
+        (IsEditorsOwn(readable) ? editors : others).insert(readable);
+    }
+
+    EXPECT_EQ(others, (std::set<std::string>{"DllMain", "g_fnLoadAndLinkToolCat"}));
+    for (const char* pszName : EditorOperations) {
+        EXPECT_EQ(editors.count(std::string("CInplaceEditor::") + pszName), 1U) << pszName;
+    }
+    EXPECT_EQ(editors.count("vtable for CInplaceEditor") + editors.count("typeinfo for CInplaceEditor"), 2U);
 }
 
 TEST_F(ModuleEntry, HandsElevenToolsOverInOrderThoughEachIsRefused) {
