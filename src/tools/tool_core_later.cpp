@@ -19,10 +19,4 @@ int CToolCore::RebuildTextNodeInPlace(CTextNode*, CTextNode*, int) { return 0; }
 
 int CToolCore::CopyNodeLook(CImgNode*, CImgNode*) { return 0; }
 
-int CToolCore::RecordAttributeUndoForSelection(UINT) { return 0; }
-
-int CToolCore::RecordAttributeUndo(CNodeRefList&, UINT) { return 0; }
-
-int CToolCore::RecordAddObjectUndo() { return 0; }
-
 int CToolCore::MakePlaceholderFrame(CImgNode*, const RECT*) { return 0; }
