@@ -48,7 +48,7 @@ int CEditorHost::Destroy() {
 
 // A tool's editor loses its input with the focus, so while one is open it has the focus.
 CInplaceEditor* CEditorHost::Editor() const {
-    if (m_pEditor || !m_desk.View()) {
+    if (m_pEditor || !m_bBound || !m_desk.View()) {
         return m_pEditor;
     }
     HWND hFocus = ::GetFocus();

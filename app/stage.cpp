@@ -141,6 +141,7 @@ int CStage::DetachModule() {
 
 bool CStage::NewPage(int nWidth, int nHeight, double dZoom) {
     DestroyEditor();
+    EndEditor(); // A tool's own goes by its own road, while its page still stands.
     m_names.Clear();
     return m_desk.NewPage(nWidth, nHeight, dZoom);
 }
