@@ -111,7 +111,6 @@ constexpr DWORD TCI_SRCCHARSET = 1;
 constexpr DWORD TCI_SRCCODEPAGE = 2;
 
 constexpr UINT CP_ACP = 0;
-constexpr UINT CP_UTF8 = 65001;
 constexpr DWORD MB_PRECOMPOSED = 1;
 constexpr DWORD MB_ERR_INVALID_CHARS = 8;
 

@@ -4,6 +4,7 @@
 
 #include "platform/faults.h"
 
+#include <algorithm>
 #include <new>
 
 namespace win32 {
@@ -34,7 +35,7 @@ HBITMAP DefaultBitmap() {
     static const HBITMAP bitmap = [] {
         auto made = MakeBitmap(1, 1, Rows::TopDown);
         if (made) {
-            made->monochrome = true;
+            made->bitCount = 1;
         }
         return static_cast<HBITMAP>(EnterShared(std::move(made)));
     }();
@@ -47,14 +48,31 @@ static void ReadOneBitRow(const BYTE* from, Bitmap& to, int y) {
     }
 }
 
+static void ReadThreeByteRow(const BYTE* from, Bitmap& to, int y) {
+    for (int x = 0; x < to.width; ++x, from += 3) {
+        to.Row(y)[x] = from[0] | static_cast<DWORD>(from[1]) << 8 | static_cast<DWORD>(from[2]) << 16;
+    }
+}
+
 static void ReadBits(const void* bits, Bitmap& to) {
-    const ptrdiff_t rowBytes = to.monochrome ? (to.width + 15) / 16 * 2 : to.width * 4;
-    for (int y = 0; y < to.height; ++y) {
-        const BYTE* row = static_cast<const BYTE*>(bits) + y * rowBytes;
-        if (to.monochrome) {
-            ReadOneBitRow(row, to, y);
-        } else {
-            std::memcpy(to.Row(y), row, static_cast<size_t>(rowBytes));
+    const BYTE* row = static_cast<const BYTE*>(bits);
+    for (int y = 0; y < to.height; ++y, row += to.RowBytes()) {
+        switch (to.bitCount) {
+        case 1: ReadOneBitRow(row, to, y); break;
+        case 24: ReadThreeByteRow(row, to, y); break;
+        default: std::memcpy(to.Row(y), row, static_cast<size_t>(to.width) * sizeof(DWORD)); break;
+        }
+    }
+}
+
+// `to` is as long as the bitmap's rows are outside, and zero.
+static void WriteRow(const Bitmap& from, int y, BYTE* to) {
+    const DWORD* row = from.Row(y);
+    for (int x = 0; x < from.width; ++x) {
+        if (!from.IsMonochrome()) {
+            std::memcpy(to + x * from.bitCount / 8, &row[x], static_cast<size_t>(from.bitCount / 8));
+        } else if (row[x] != 0) {
+            to[x / 8] |= static_cast<BYTE>(0x80 >> (x % 8));
         }
     }
 }
@@ -84,20 +102,20 @@ HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
         return DefaultBitmap();
     }
     auto bitmap = MakeBitmap(width, height, Rows::TopDown);
-    if (bitmap) {
-        bitmap->monochrome = context->bitmap && context->bitmap->monochrome;
+    if (bitmap && context->bitmap) {
+        bitmap->bitCount = context->bitmap->bitCount;
     }
     return EnterBitmap(std::move(bitmap));
 }
 
 HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits) {
-    if (planes != 1 || (bitCount != 1 && bitCount != 32)) {
+    if (planes != 1 || (bitCount != 1 && bitCount != 24 && bitCount != 32)) {
         FailWith(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
     auto bitmap = MayMakeBitmap() ? MakeBitmap(width, height, Rows::TopDown) : nullptr;
     if (bitmap) {
-        bitmap->monochrome = bitCount == 1;
+        bitmap->bitCount = static_cast<int>(bitCount);
         if (bits) {
             ReadBits(bits, *bitmap);
         }
@@ -122,4 +140,29 @@ HBITMAP CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, H
         *bits = handle ? pixels : nullptr;
     }
     return handle;
+}
+
+LONG GetBitmapBits(HBITMAP handle, LONG size, LPVOID bits) {
+    const Bitmap* bitmap = FindObject<Bitmap>(handle);
+    if (!bitmap) {
+        return FailWith(ERROR_INVALID_HANDLE);
+    }
+    const LONGLONG rowBytes = bitmap->RowBytes();
+    const LONG whole = static_cast<LONG>(std::min<LONGLONG>(rowBytes * bitmap->height, INT32_MAX));
+    if (!bits) {
+        return whole;
+    }
+    const LONG copied = std::clamp(size, 0, whole);
+    const std::unique_ptr<BYTE[]> row(new (std::nothrow) BYTE[static_cast<size_t>(rowBytes)]);
+    if (!row) {
+        return FailWith(ERROR_NOT_ENOUGH_MEMORY);
+    }
+    BYTE* to = static_cast<BYTE*>(bits);
+    for (LONG done = 0, y = 0; done < copied; done += static_cast<LONG>(rowBytes), ++y) {
+        std::fill_n(row.get(), rowBytes, BYTE{0});
+        WriteRow(*bitmap, y, row.get());
+        const LONGLONG part = std::min<LONGLONG>(rowBytes, copied - done);
+        std::memcpy(to + done, row.get(), static_cast<size_t>(part));
+    }
+    return copied;
 }

@@ -13,7 +13,7 @@ constexpr LONG FarthestPixel = 1 << 27;
 static bool OpenBitmap(const Bitmap& bitmap, Canvas* canvas) {
     canvas->pixels = bitmap.firstRow;
     canvas->stride = bitmap.stride;
-    canvas->monochrome = bitmap.monochrome;
+    canvas->monochrome = bitmap.IsMonochrome();
     canvas->clip = {0, 0, bitmap.width, bitmap.height};
     return true;
 }
@@ -47,7 +47,11 @@ bool OpenCanvas(const DeviceContext& context, Canvas* canvas) {
 }
 
 bool OpenForDrawing(DeviceContext& context, const RECT& box, Canvas* canvas) {
-    if (!OpenCanvas(context, canvas) || !IntersectRect(&canvas->clip, &canvas->clip, &box)) {
+    return OpenCanvas(context, canvas) && NarrowForDrawing(context, box, canvas);
+}
+
+bool NarrowForDrawing(DeviceContext& context, const RECT& box, Canvas* canvas) {
+    if (!IntersectRect(&canvas->clip, &canvas->clip, &box)) {
         return false;
     }
     if (context.kind == DcKind::Window) {

@@ -23,6 +23,8 @@ struct Canvas {
 bool OpenCanvas(const DeviceContext& context, Canvas* canvas);
 /// The same, limited to `box` (device pixels), which is noted as drawn on.
 bool OpenForDrawing(DeviceContext& context, const RECT& box, Canvas* canvas);
+/// The second half of this, for a canvas that is open.
+bool NarrowForDrawing(DeviceContext& context, const RECT& box, Canvas* canvas);
 
 /// A device rectangle with its corners in order, brought within what the loops can count.
 RECT ToDeviceRect(const DeviceContext& context, int left, int top, int right, int bottom);

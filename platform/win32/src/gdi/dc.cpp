@@ -1,11 +1,14 @@
 #include "canvas.h"
 
 #include "surface_state.h"
+#include "text/fonts.h"
 #include "window_tree.h"
 #include "wrap.h"
 
 #include "platform/faults.h"
 
+#include <algorithm>
+#include <initializer_list>
 #include <new>
 
 namespace win32 {
@@ -34,6 +37,25 @@ HGDIOBJ Swap(T*& place, T* object) {
     return before;
 }
 
+// Calls `count` with the number of contexts of each object in the state.
+template <typename Count>
+void ForEachSelected(const DcState& state, Count count) {
+    for (GdiObject* object :
+         std::initializer_list<GdiObject*>{state.pen, state.brush, state.font, state.bitmap}) {
+        if (object) {
+            count(object->selected);
+        }
+    }
+}
+
+void HoldObjects(const DcState& state) {
+    ForEachSelected(state, [](unsigned& selected) { ++selected; });
+}
+
+void ReleaseObjects(const DcState& state) {
+    ForEachSelected(state, [](unsigned& selected) { --selected; });
+}
+
 static HDC EnterContext(DcKind kind, HWND window) {
     std::unique_ptr<DeviceContext> context(new (std::nothrow) DeviceContext);
     DeviceContext* entered = context.get();
@@ -47,13 +69,21 @@ static HDC EnterContext(DcKind kind, HWND window) {
     entered->window = window;
     Swap(entered->pen, FindObject<Pen>(GetStockObject(BLACK_PEN)));
     Swap(entered->brush, FindObject<Brush>(GetStockObject(WHITE_BRUSH)));
+    Swap(entered->font, FindObject<Font>(GetStockObject(SYSTEM_FONT)));
+    return dc;
+}
+
+static HDC EnterDisplayContext() {
+    const HDC dc = EnterContext(DcKind::Screen, nullptr);
+    if (dc) {
+        g_contexts.Find(dc)->created = true;
+    }
     return dc;
 }
 
 static void DropContext(DeviceContext& context) {
-    Swap(context.pen, static_cast<Pen*>(nullptr));
-    Swap(context.brush, static_cast<Brush*>(nullptr));
-    Swap(context.bitmap, static_cast<Bitmap*>(nullptr));
+    ReleaseObjects(context);
+    std::for_each(context.saved.begin(), context.saved.end(), ReleaseObjects);
     g_contexts.Remove(context.handle);
 }
 
@@ -98,11 +128,11 @@ static bool CanTake(const DeviceContext& context, const Bitmap& bitmap) {
 using namespace win32;
 
 HDC CreateDCA(LPCSTR, LPCSTR, LPCSTR, LPCVOID) {
-    const HDC dc = MayOpen("device-context") ? EnterContext(DcKind::Screen, nullptr) : nullptr;
-    if (dc) {
-        g_contexts.Find(dc)->created = true;
-    }
-    return dc;
+    return MayOpen("device-context") ? EnterDisplayContext() : nullptr;
+}
+
+HDC CreateICA(LPCSTR, LPCSTR, LPCSTR, LPCVOID) {
+    return MayOpen("display-context") ? EnterDisplayContext() : nullptr;
 }
 
 HDC CreateCompatibleDC(HDC like) {
@@ -131,6 +161,9 @@ HGDIOBJ SelectObject(HDC dc, HGDIOBJ handle) {
     DeviceContext* context = FindDc(dc);
     if (!context) {
         return nullptr;
+    }
+    if (Font* font = FindObject<Font>(handle)) {
+        return Swap(context->font, font);
     }
     if (Pen* pen = FindObject<Pen>(handle)) {
         return Swap(context->pen, pen);

@@ -1,5 +1,7 @@
 #include "objects.h"
 
+#include "text/fonts.h"
+
 #include <algorithm>
 #include <array>
 #include <new>
@@ -52,8 +54,10 @@ static std::unique_ptr<Brush> MakeBrush(COLORREF color, bool hollow) {
     return brush;
 }
 
-static std::array<HGDIOBJ, NULL_PEN + 1> MakeStock() {
-    std::array<HGDIOBJ, NULL_PEN + 1> stock{};
+using Stock = std::array<HGDIOBJ, DEFAULT_GUI_FONT + 1>;
+
+static Stock MakeStock() {
+    Stock stock{};
     stock[WHITE_BRUSH] = EnterShared(MakeBrush(RGB(255, 255, 255), false));
     stock[LTGRAY_BRUSH] = EnterShared(MakeBrush(RGB(192, 192, 192), false));
     stock[GRAY_BRUSH] = EnterShared(MakeBrush(RGB(128, 128, 128), false));
@@ -63,6 +67,8 @@ static std::array<HGDIOBJ, NULL_PEN + 1> MakeStock() {
     stock[WHITE_PEN] = EnterShared(MakePen(PS_SOLID, 1, RGB(255, 255, 255)));
     stock[BLACK_PEN] = EnterShared(MakePen(PS_SOLID, 1, RGB(0, 0, 0)));
     stock[NULL_PEN] = EnterShared(MakePen(PS_NULL, 1, RGB(0, 0, 0)));
+    stock[SYSTEM_FONT] = EnterShared(MakeStockFont());
+    stock[DEFAULT_GUI_FONT] = EnterShared(MakeStockFont());
     return stock;
 }
 
@@ -108,9 +114,9 @@ static BITMAP Describe(const Bitmap& bitmap) {
     BITMAP record = {};
     record.bmWidth = bitmap.width;
     record.bmHeight = bitmap.height;
-    record.bmWidthBytes = bitmap.monochrome ? (bitmap.width + 15) / 16 * 2 : bitmap.width * 4;
+    record.bmWidthBytes = bitmap.RowBytes();
     record.bmPlanes = 1;
-    record.bmBitsPixel = bitmap.monochrome ? 1 : 32;
+    record.bmBitsPixel = static_cast<WORD>(bitmap.bitCount);
     record.bmBits = bitmap.section ? bitmap.pixels.get() : nullptr;
     return record;
 }
@@ -130,8 +136,8 @@ HPEN CreatePen(int style, int width, COLORREF color) {
 HBRUSH CreateSolidBrush(COLORREF color) { return static_cast<HBRUSH>(EnterObject(MakeBrush(color, false))); }
 
 HGDIOBJ GetStockObject(int index) {
-    static const auto stock = MakeStock();
-    return index >= 0 && index <= NULL_PEN ? stock[static_cast<size_t>(index)] : nullptr;
+    static const Stock stock = MakeStock();
+    return index >= 0 && index <= DEFAULT_GUI_FONT ? stock[static_cast<size_t>(index)] : nullptr;
 }
 
 COLORREF GetSysColor(int index) {
@@ -179,6 +185,9 @@ int GetObjectA(HGDIOBJ handle, int size, LPVOID out) {
     if (const Brush* brush = FindObject<Brush>(handle)) {
         const LOGBRUSH record = {brush->hollow ? BS_NULL : BS_SOLID, brush->color, 0};
         return CopyOut(&record, sizeof record, size, out);
+    }
+    if (const Font* font = FindObject<Font>(handle)) {
+        return CopyOut(&font->description, sizeof font->description, size, out);
     }
     return FailWith(ERROR_INVALID_HANDLE);
 }

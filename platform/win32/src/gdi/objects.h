@@ -1,12 +1,12 @@
 #pragma once
 
-// Pens, brushes and bitmaps.
+// Pens, brushes, bitmaps and fonts.
 
 #include "handles.h"
 
 namespace win32 {
 
-enum class GdiType { Pen, Brush, Bitmap };
+enum class GdiType { Pen, Brush, Bitmap, Font };
 
 struct GdiObject {
     explicit GdiObject(GdiType kind) : type(kind) {}
@@ -41,12 +41,15 @@ struct Bitmap : GdiObject {
     Bitmap() : GdiObject(Type) {}
 
     DWORD* Row(int y) const { return firstRow + y * stride; }
+    bool IsMonochrome() const { return bitCount == 1; }
+    /// Of one row as it is known outside.
+    int RowBytes() const { return (width * bitCount + 15) / 16 * 2; }
 
     int width = 0;
     int height = 0;
     ptrdiff_t stride = 0; // Negative where the first row in memory is the lowest.
     DWORD* firstRow = nullptr;
-    bool monochrome = false;
+    int bitCount = 32;    // 1, 24 or 32, as it is known outside.
     bool section = false; // Its pixels are known outside.
     std::unique_ptr<DWORD[]> pixels;
 };

@@ -74,6 +74,16 @@ int GetROP2(HDC dc) {
     return context ? context->rop : 0;
 }
 
+UINT SetTextAlign(HDC dc, UINT mode) {
+    DeviceContext* context = FindDc(dc);
+    return context ? std::exchange(context->textAlign, mode) : GDI_ERROR;
+}
+
+UINT GetTextAlign(HDC dc) {
+    const DeviceContext* context = FindDc(dc);
+    return context ? context->textAlign : GDI_ERROR;
+}
+
 BOOL SetViewportOrgEx(HDC dc, int x, int y, LPPOINT previous) {
     return ExchangePoint(dc, &DeviceContext::viewportOrg, {x, y}, previous);
 }

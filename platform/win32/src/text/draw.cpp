@@ -1,0 +1,180 @@
+#include "fonts.h"
+#include "gdi/canvas.h"
+
+#include <algorithm>
+
+namespace win32 {
+
+// Bits of the alignment; TA_CENTER and TA_BASELINE each have two.
+constexpr UINT HorizontalBits = TA_CENTER;
+constexpr UINT VerticalBits = TA_BASELINE;
+
+static int RowsAbovePoint(const CFontInstance& font, UINT align) {
+    switch (align & VerticalBits) {
+    case TA_BASELINE: return font.Ascent();
+    case TA_BOTTOM: return font.Height();
+    default: return 0;
+    }
+}
+
+static int ColumnsBeforePoint(int extent, UINT align) {
+    switch (align & HorizontalBits) {
+    case TA_CENTER: return extent / 2;
+    case TA_RIGHT: return extent;
+    default: return 0;
+    }
+}
+
+// A share of 0 leaves the pixel, one of 256 makes it the ink. No part of a product reaches into the next.
+static DWORD Blend(DWORD pixel, DWORD ink, DWORD share) {
+    constexpr DWORD RedBlue = 0x00FF00FF;
+    constexpr DWORD Green = 0x0000FF00;
+    const DWORD rest = 256 - share;
+    return (((pixel & RedBlue) * rest + (ink & RedBlue) * share) >> 8 & RedBlue) |
+           (((pixel & Green) * rest + (ink & Green) * share) >> 8 & Green);
+}
+
+typedef std::uint8_t TwoPixels __attribute__((vector_size(8)));
+
+static Quad::Lanes InkLanes(DWORD ink) {
+    Quad::Lanes lanes{};
+    for (int i = 0; i < 8; ++i) {
+        lanes[i] = static_cast<std::uint16_t>(ink >> (i % 4 * 8) & 0xFF);
+    }
+    return lanes;
+}
+
+// As Blend, two pixels at a time; the products wrap around, their sum does not.
+static void BlendTwo(DWORD* pixels, const Quad::Lanes& ink, const Quad::Lanes& share) {
+    TwoPixels bytes;
+    std::memcpy(&bytes, pixels, sizeof bytes);
+    const auto old = __builtin_convertvector(bytes, Quad::Lanes);
+    const Quad::Lanes mixed = ((old << 8) + (ink - old) * share) >> 8;
+    bytes = __builtin_convertvector(mixed, TwoPixels);
+    std::memcpy(pixels, &bytes, sizeof bytes);
+}
+
+/// Draws pictures of one ink on an open canvas.
+class CGlyphPainter {
+  public:
+    CGlyphPainter(const Canvas& canvas, DWORD ink, int top, int height)
+        : m_canvas(canvas), m_ink(ink), m_inkLanes(InkLanes(ink)), m_top(top),
+          m_wholeRows(!canvas.monochrome && top >= canvas.clip.top && top + height <= canvas.clip.bottom) {}
+
+    void Draw(const Glyph& glyph, LONG pen) const {
+        const LONG left = pen + glyph.left;
+        if (m_wholeRows && !glyph.quads.empty() && left >= m_canvas.clip.left &&
+            left + glyph.quadsWidth <= m_canvas.clip.right) {
+            DrawQuads(glyph, m_canvas.At(left, m_top));
+        } else {
+            DrawClipped(glyph, left);
+        }
+    }
+
+  private:
+    void DrawQuads(const Glyph& glyph, DWORD* corner) const {
+        for (const Quad& quad : glyph.quads) {
+            DWORD* pixels = corner + quad.y * m_canvas.stride + quad.x;
+            BlendTwo(pixels, m_inkLanes, quad.first);
+            BlendTwo(pixels + 2, m_inkLanes, quad.second);
+        }
+    }
+
+    void DrawClipped(const Glyph& glyph, LONG left) const {
+        const LONG top = m_top + glyph.top;
+        const RECT place = {left, top, left + glyph.width, top + glyph.height};
+        RECT part;
+        if (!IntersectRect(&part, &place, &m_canvas.clip)) {
+            return;
+        }
+        for (LONG y = part.top; y < part.bottom; ++y) {
+            const BYTE* coverage = glyph.coverage.data() + (y - top) * glyph.width + (part.left - left);
+            DrawRow(m_canvas.At(part.left, y), coverage, part.right - part.left);
+        }
+    }
+
+    void DrawRow(DWORD* pixels, const BYTE* coverage, LONG count) const {
+        for (LONG i = 0; i < count; ++i) {
+            const DWORD share = coverage[i] + (coverage[i] >> 7);
+            if (share == 256 || (m_canvas.monochrome && share > 128)) {
+                pixels[i] = m_ink;
+            } else if (share != 0 && !m_canvas.monochrome) {
+                pixels[i] = Blend(pixels[i], m_ink, share);
+            }
+        }
+    }
+
+    const Canvas& m_canvas;
+    const DWORD m_ink;
+    const Quad::Lanes m_inkLanes;
+    const LONG m_top;
+    const bool m_wholeRows; // Every row of a picture may be drawn, and in colours.
+};
+
+static void DrawGlyphs(const Canvas& canvas, CFontInstance& font, std::string_view text, POINT corner,
+                       DWORD ink) {
+    const CGlyphPainter painter(canvas, ink, corner.y, font.Height());
+    const LONG overhang = font.Overhang();
+    const LONG end = canvas.clip.right + overhang;
+    const int count = static_cast<int>(text.size());
+    LONG pen = corner.x;
+    for (int at = 0; at < count && pen < end;) {
+        const Character next = FirstCharacter(font.Page(), text.data() + at, count - at);
+        const LONG after = pen + font.Advance(next);
+        if (after + overhang > canvas.clip.left) {
+            painter.Draw(font.Picture(next), pen);
+        }
+        pen = after;
+        at += next.length;
+    }
+}
+
+static void DrawBar(const Canvas& canvas, const RECT& cell, const Bar& bar, DWORD ink) {
+    FillArea(canvas, {cell.left, cell.top + bar.top, cell.right, cell.top + bar.top + bar.height}, ink,
+             R2_COPYPEN);
+}
+
+// `cell` is the text's extent, in device pixels.
+static void DrawText(DeviceContext& context, const Canvas& canvas, std::string_view text, const RECT& cell) {
+    CFontInstance& font = InstanceOf(*context.font);
+    if (context.bkMode == OPAQUE) {
+        FillArea(canvas, cell, PixelOf(canvas, context.bkColor), R2_COPYPEN);
+    }
+    const DWORD ink = PixelOf(canvas, context.textColor);
+    DrawGlyphs(canvas, font, text, {cell.left, cell.top}, ink);
+    if (context.font->description.lfUnderline) {
+        DrawBar(canvas, cell, font.Underline(), ink);
+    }
+    if (context.font->description.lfStrikeOut) {
+        DrawBar(canvas, cell, font.StrikeOut(), ink);
+    }
+}
+
+} // namespace win32
+
+using namespace win32;
+
+BOOL TextOutA(HDC dc, int x, int y, LPCSTR text, int count) {
+    DeviceContext* context = FindDc(dc);
+    if (!context || count < 0 || (!text && count > 0)) {
+        return context ? FailWith(ERROR_INVALID_PARAMETER) : FALSE;
+    }
+    const CFontInstance& font = InstanceOf(*context->font);
+    const POINT point = ToDevice(*context, x, y);
+    const LONG top = IsReachable(point) ? point.y - RowsAbovePoint(font, context->textAlign) : 0;
+    Canvas canvas;
+    // A line above or below the clip costs no look at its text.
+    if (count == 0 || !IsReachable(point) || !OpenCanvas(*context, &canvas) || top >= canvas.clip.bottom ||
+        top + font.Height() <= canvas.clip.top) {
+        return TRUE;
+    }
+    const int extent = font.Extent(text, count);
+    const LONG left = point.x - ColumnsBeforePoint(extent, context->textAlign);
+    const RECT cell = {left, top, left + extent, top + font.Height()};
+    RECT box = cell;
+    InflateRect(&box, font.Overhang(), 0);
+    if (NarrowForDrawing(*context, box, &canvas)) {
+        DrawText(*context, canvas, {text, static_cast<size_t>(count)}, cell);
+    }
+    return TRUE;
+}
