@@ -46,6 +46,10 @@ constexpr const char* Pieces[] = {
     "key LEFT x3\n",
     "undo\n",
     "click 5 5\n",
+    "editor ",
+    "editor new 9 9 \"a\\nb\"\n",
+    "type \"x\\n\"\n",
+    "drop \"x\" 9 9\n",
 };
 
 std::string Garbage(std::mt19937& random) {
