@@ -128,8 +128,11 @@ int CInplaceEditor::m_fnOnDataArrive(int, int nPhase, UINT nFormat, CString&, DW
     if (nFormat != DropFormatText) {
         return 0;
     }
+    // A refused drop leaves the restored caret alone.
     if (m_fnIsInsideSelectionRange(point)) {
-        HideShownCaret();
+        if (m_nHovering != 0) {
+            HideShownCaret();
+        }
         return 0;
     }
     if (nPhase == drop_phase::Drop) {

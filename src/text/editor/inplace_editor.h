@@ -121,7 +121,6 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     bool IsCaretDrawn() const { return m_bCaretDrawn; }
 
   protected:
-    friend 
     // Font, measuring and placing. Rectangles of lines are client pixels.
     int m_fnRegenerateFont();
     void m_fnUpdateWindowPos();
