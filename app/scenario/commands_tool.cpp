@@ -1,4 +1,5 @@
 #include <array>
+#include <climits>
 
 #include "image/picture_file.h"
 #include "scenario/commands.h"
@@ -119,14 +120,33 @@ void Service(CRunner& run, CArguments& args) {
     }
 }
 
-void Mark(CRunner& run, CArguments& args) {
-    const bool bSelection =
-        args.OneOf("what to record", {"selection", "attributes", "attributes-of", "add-object"}) == 0;
-    if (!bSelection) {
-        throw CNotBuilt("mark");
-    }
+int MarkAttributes(CRunner& run, CArguments& args) {
+    const int nId = args.IntIn("ID", 0, INT_MAX);
     args.End();
-    run.Say(run.ToolInterface<IToolObjectOps>().RecordSelectionUndo());
+    return run.ToolInterface<IToolObjectOps>().RecordAttributeUndoForSelection(static_cast<UINT>(nId));
+}
+
+int MarkAttributesOf(CRunner& run, CArguments& args) {
+    const int nId = args.IntIn("ID", 0, INT_MAX);
+    CNodeRefList nodes;
+    do {
+        nodes.AddTail(run.Node(args, "NAME"));
+    } while (!args.AtEnd());
+    return run.ToolInterface<IToolObjectOps>().RecordAttributeUndo(nodes, static_cast<UINT>(nId));
+}
+
+int MarkPlain(CRunner& run, CArguments& args, int (IToolObjectOps::*pfnRecord)()) {
+    args.End();
+    return (run.ToolInterface<IToolObjectOps>().*pfnRecord)();
+}
+
+void Mark(CRunner& run, CArguments& args) {
+    switch (args.OneOf("what to record", {"selection", "attributes", "attributes-of", "add-object"})) {
+    case 0: run.Say(MarkPlain(run, args, &IToolObjectOps::RecordSelectionUndo)); break;
+    case 1: run.Say(MarkAttributes(run, args)); break;
+    case 2: run.Say(MarkAttributesOf(run, args)); break;
+    default: run.Say(MarkPlain(run, args, &IToolObjectOps::RecordAddObjectUndo)); break;
+    }
 }
 
 void Undo(CRunner& run, CArguments& args) {

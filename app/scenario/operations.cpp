@@ -1,6 +1,7 @@
 #include "scenario/operations.h"
 
 #include <array>
+#include <climits>
 #include <span>
 
 #include "desk/tool_operations.h"
@@ -125,6 +126,20 @@ void RefreshNodeShadow(CRunner& run, CArguments& args, IToolObjectOps& ops) {
     run.Say(ops.RefreshNodeShadow(pNode, nRedraw));
 }
 
+void RecordAttributeUndoForSelection(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    const int nId = args.IntIn("ID", 0, INT_MAX);
+    args.End();
+    run.Say(ops.RecordAttributeUndoForSelection(static_cast<UINT>(nId)));
+}
+
+void RecordAttributeUndo(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    CNodeRefList nodes;
+    run.Nodes(args, "LIST", nodes);
+    const int nId = args.IntIn("ID", 0, INT_MAX);
+    args.End();
+    run.Say(ops.RecordAttributeUndo(nodes, static_cast<UINT>(nId)));
+}
+
 constexpr std::array<OperationRow<OpsHandler>, 38> Ops = {{
     {1, "OnToolActivate", nullptr},
     {2, "ClearSelection", Plain<&IToolObjectOps::ClearSelection>},
@@ -152,9 +167,9 @@ constexpr std::array<OperationRow<OpsHandler>, 38> Ops = {{
     {24, "CopyNodeLook", nullptr},
     {25, "HookNode", OneNode<&IToolObjectOps::HookNode>},
     {26, "RecordSelectionUndo", Plain<&IToolObjectOps::RecordSelectionUndo>},
-    {27, "RecordAttributeUndoForSelection", nullptr},
-    {28, "RecordAttributeUndo", nullptr},
-    {29, "RecordAddObjectUndo", nullptr},
+    {27, "RecordAttributeUndoForSelection", RecordAttributeUndoForSelection},
+    {28, "RecordAttributeUndo", RecordAttributeUndo},
+    {29, "RecordAddObjectUndo", Plain<&IToolObjectOps::RecordAddObjectUndo>},
     {30, "NotifyObjectsChanged", Plain<&IToolObjectOps::NotifyObjectsChanged>},
     {31, "NotifyObjectsRedrawn", Plain<&IToolObjectOps::NotifyObjectsRedrawn>},
     {32, "ClassifyNodes", List<&IToolObjectOps::ClassifyNodes>},

@@ -7,37 +7,74 @@
 
 namespace {
 
-/// The classes that keep one list of saved state, then the owner tool, then the undone flag.
-constexpr std::array<const char*, 5> OneListClasses = {
-    "CSelChangedUndoEvent",    "CMoveChangedUndoEvent",       "CResizeChangedUndoEvent",
-    "CShadowChangedUndoEvent", "CShadowMoveChangedUndoEvent",
-};
-
 /// Lists of every element type have one size and one start, so the type does not matter here.
+using AnyList = CList<void*, void*>;
+
+/// One list of saved state, then the owner tool, then the undone flag.
 class COneListEvent : public CUndoEvent {
   public:
-    CList<void*, void*> m_saved;
+    AnyList m_saved;
     CListenerObject* m_pOwnerTool;
     BOOL m_bUndone;
 };
 
-bool KeepsOneList(const CUndoEvent& event) {
-    const char* pszClass = event.GetRuntimeClass()->m_lpszClassName;
-    for (const char* pszKnown : OneListClasses) {
-        if (std::strcmp(pszClass, pszKnown) == 0) {
-            return true;
-        }
-    }
-    return false;
+/// The owner tool, then lists, then the undone flag.
+template <std::size_t nLists>
+class COwnerFirstEvent : public CUndoEvent {
+  public:
+    CListenerObject* m_pOwnerTool;
+    std::array<AnyList, nLists> m_saved;
+    BOOL m_bUndone;
+};
+
+class CDisplayEvent : public CUndoEvent {
+  public:
+    CListenerObject* m_pOwnerTool;
+    AnyList m_records;
+    std::int32_t m_newValues[3];
+    BOOL m_bUndone;
+};
+
+class CTextEditEvent : public CUndoEvent {
+  public:
+    CListenerObject* m_pOwnerTool;
+    CString m_text;
+    CRect m_box;
+    BOOL m_bUndone;
+};
+
+template <class TEvent>
+RecordedEvent Read(const CUndoEvent& event) {
+    const auto& fields = static_cast<const TEvent&>(event);
+    return {fields.m_pOwnerTool, fields.m_bUndone != FALSE};
 }
+
+struct LayoutRow {
+    const char* pszClass;
+    RecordedEvent (*pfnRead)(const CUndoEvent& event);
+};
+
+constexpr std::array<LayoutRow, 9> Layouts = {{
+    {"CSelChangedUndoEvent", Read<COneListEvent>},
+    {"CMoveChangedUndoEvent", Read<COneListEvent>},
+    {"CResizeChangedUndoEvent", Read<COneListEvent>},
+    {"CShadowChangedUndoEvent", Read<COneListEvent>},
+    {"CShadowMoveChangedUndoEvent", Read<COneListEvent>},
+    {"CAddObjectUndoEvent", Read<COwnerFirstEvent<6>>},
+    {"CObjectAttributeChangedUndoEvent", Read<COwnerFirstEvent<2>>},
+    {"CuDisplayUndoEvent", Read<CDisplayEvent>},
+    {"CTextEditChangedUndoEvent", Read<CTextEditEvent>},
+}};
 
 } // namespace
 
 bool ReadRecordedEvent(const CUndoEvent& event, RecordedEvent& record) {
-    if (!KeepsOneList(event)) {
-        return false;
+    const char* pszClass = event.GetRuntimeClass()->m_lpszClassName;
+    for (const LayoutRow& row : Layouts) {
+        if (std::strcmp(pszClass, row.pszClass) == 0) {
+            record = row.pfnRead(event);
+            return true;
+        }
     }
-    const auto& fields = static_cast<const COneListEvent&>(event);
-    record = {fields.m_pOwnerTool, fields.m_bUndone != FALSE};
-    return true;
+    return false;
 }

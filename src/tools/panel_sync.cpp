@@ -5,7 +5,7 @@
 #include "ops/bus.h"
 #include "ops/saturate.h"
 #include "ops/shared_value.h"
-#include "text/font_units.h"
+#include "text/editor/inplace_editor.h"
 #include "text/text_style.h"
 
 namespace {
@@ -27,7 +27,7 @@ struct TextValues {
 
     void Add(const CTextNode& node) {
         fontName.Add(node.m_strFontName);
-        size.Add(font_units::PixelsToNearestPoints(node.m_nFontSize));
+        size.Add(CInplaceEditor::m_fnConvertFontPixelToNearestPoint(node.m_nFontSize));
         alignment.Add(AlignmentIndexOf(node));
         color.Add(node.m_crText);
         nStyle &= StyleBitsOf(node);

@@ -5,10 +5,4 @@
 void CToolCore::m_fnRemoveFrame() {}
 void CToolCore::m_fnRemoveShadow() {}
 
-int CToolCore::RecordAttributeUndoForSelection(UINT) { return 0; }
-
-int CToolCore::RecordAttributeUndo(CNodeRefList&, UINT) { return 0; }
-
-int CToolCore::RecordAddObjectUndo() { return 0; }
-
 int CToolCore::MakePlaceholderFrame(CImgNode*, const RECT*) { return 0; }

@@ -2,6 +2,7 @@
 
 #include "host/services.h"
 #include "refhost_help.h"
+#include "services/services_host.h"
 
 using namespace refhost_help;
 
@@ -58,4 +59,20 @@ TEST(MergeBuf, BadBuffersSizesPercentagesAndTheFaultLeaveTheOutputAlone) {
     const CFaultScope fault("merge");
     EXPECT_EQ(0, CGlobalAPI::m_fnMergeBuf(out.Get(), work.Get(), 0, 50, 0));
     EXPECT_EQ(before, BytesOf(out));
+}
+
+TEST(DefaultFont, TheNameIsCutToTheBufferAndMayBeMissing) {
+    char szName[6] = "xxxxx";
+    EXPECT_EQ(1, gfnGetDefaultFontNameFromQuorProd(szName, 6));
+    EXPECT_STREQ("Arial", szName);
+
+    SetDefaultFontName("Courier New");
+    EXPECT_EQ(1, gfnGetDefaultFontNameFromQuorProd(szName, 4));
+    EXPECT_STREQ("Cou", szName);
+    EXPECT_EQ(0, gfnGetDefaultFontNameFromQuorProd(szName, 0));
+    EXPECT_EQ(0, gfnGetDefaultFontNameFromQuorProd(nullptr, 6));
+    SetDefaultFontName(nullptr);
+    EXPECT_EQ(0, gfnGetDefaultFontNameFromQuorProd(szName, 6));
+    EXPECT_STREQ("Cou", szName);
+    SetDefaultFontName("Arial");
 }

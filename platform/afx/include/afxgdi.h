@@ -1,9 +1,10 @@
 #pragma once
 
-// Pens, brushes, bitmaps and device contexts.
+// Pens, brushes, bitmaps, fonts and device contexts.
 
 #include "afx.h"
 #include "afxrect.h"
+#include "afxstr.h"
 
 class CDC;
 class CWnd;
@@ -75,6 +76,28 @@ class CBitmap : public CGdiObject {
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
     /// Bytes written, 0 on failure.
     int GetBitmap(BITMAP* pBitMap) const { return GetObject(sizeof(BITMAP), pBitMap); }
+    /// Rows are padded to 16 bits. Bytes written, 0 on failure.
+    DWORD GetBitmapBits(DWORD dwCount, LPVOID lpBits) const {
+        return static_cast<DWORD>(
+            ::GetBitmapBits(static_cast<HBITMAP>(m_hObject), static_cast<LONG>(dwCount), lpBits));
+    }
+};
+
+class CFont : public CGdiObject {
+    DECLARE_DYNCREATE(CFont)
+
+    CFont() = default;
+
+    static CFont* FromHandle(HFONT hFont);
+    operator HFONT() const { return static_cast<HFONT>(m_hObject); }
+    BOOL CreateFontIndirect(const LOGFONT* lpLogFont) { return AttachNew(::CreateFontIndirectA(lpLogFont)); }
+    BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
+                    BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
+                    BYTE nQuality, BYTE nPitchAndFamily, LPCSTR lpszFacename);
+    /// `nPointSize` in tenths of a point, at the resolution of `pDC` (null: of the screen).
+    BOOL CreatePointFont(int nPointSize, LPCSTR lpszFaceName, CDC* pDC = nullptr);
+    /// Bytes written, 0 on failure.
+    int GetLogFont(LOGFONT* pLogFont) const { return GetObject(sizeof(LOGFONT), pLogFont); }
 };
 
 /// A device context. Coordinates are logical. The destructor deletes a context that is still attached.
@@ -98,13 +121,21 @@ class CDC : public CObject {
 
     /// A memory context; a null `pDC` means one that fits the screen.
     BOOL CreateCompatibleDC(CDC* pDC);
+    BOOL CreateDC(LPCSTR lpszDriverName, LPCSTR lpszDeviceName, LPCSTR lpszOutput, LPCVOID lpInitData);
+    /// An information context: the resolution can be asked, and text measured.
+    BOOL CreateIC(LPCSTR lpszDriverName, LPCSTR lpszDeviceName, LPCSTR lpszOutput, LPCVOID lpInitData);
     BOOL DeleteDC();
+    /// The number of the kept state, 0 on failure.
+    int SaveDC() { return ::SaveDC(m_hDC); }
+    BOOL RestoreDC(int nSavedDC) { return ::RestoreDC(m_hDC, nSavedDC); }
+    int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hDC, nIndex); }
 
     /// The object selected before, of the same type; null when nothing was selected. A temporary object may
     /// answer.
     CPen* SelectObject(CPen* pPen);
     CBrush* SelectObject(CBrush* pBrush);
     CBitmap* SelectObject(CBitmap* pBitmap);
+    CFont* SelectObject(CFont* pFont);
     HGDIOBJ SelectObject(HGDIOBJ hObject) { return ::SelectObject(m_hDC, hObject); }
     CGdiObject* SelectStockObject(int nIndex);
 
@@ -117,6 +148,8 @@ class CDC : public CObject {
     int SetBkMode(int nBkMode) { return ::SetBkMode(m_hDC, nBkMode); }
     int SetROP2(int nDrawMode) { return ::SetROP2(m_hDC, nDrawMode); }
     COLORREF SetTextColor(COLORREF crColor) { return ::SetTextColor(m_hDC, crColor); }
+    UINT GetTextAlign() const { return ::GetTextAlign(m_hDC); }
+    UINT SetTextAlign(UINT nFlags) { return ::SetTextAlign(m_hDC, nFlags); }
 
     /// Origins in device (viewport) and logical (window) pixels; the setters answer the origin before.
     CPoint SetViewportOrg(int x, int y);
@@ -171,6 +204,19 @@ class CDC : public CObject {
     COLORREF GetPixel(POINT point) const { return GetPixel(point.x, point.y); }
     COLORREF SetPixel(int x, int y, COLORREF crColor) { return ::SetPixel(m_hDC, x, y, crColor); }
     COLORREF SetPixel(POINT point, COLORREF crColor) { return SetPixel(point.x, point.y, crColor); }
+
+    BOOL TextOut(int x, int y, LPCSTR lpszString, int nCount) {
+        return ::TextOutA(m_hDC, x, y, lpszString, nCount);
+    }
+    BOOL TextOut(int x, int y, const CString& str) { return TextOut(x, y, str, str.GetLength()); }
+    /// Empty on failure.
+    CSize GetTextExtent(LPCSTR lpszString, int nCount) const;
+    CSize GetTextExtent(const CString& str) const { return GetTextExtent(str, str.GetLength()); }
+    BOOL GetTextMetrics(LPTEXTMETRIC lpMetrics) const { return ::GetTextMetricsA(m_hDC, lpMetrics); }
+
+  protected:
+    /// As Attach; a context that could not be attached is deleted.
+    BOOL AttachNew(HDC hDC);
 };
 
 /// A context on a window's client area, given back by the destructor. `m_hDC` is null when there was none to

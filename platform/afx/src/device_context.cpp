@@ -26,13 +26,24 @@ BOOL CDC::Attach(HDC hDC) {
 
 HDC CDC::Detach() { return Map().Detach(this); }
 
-BOOL CDC::CreateCompatibleDC(CDC* pDC) {
-    const HDC hDC = ::CreateCompatibleDC(pDC != nullptr ? pDC->m_hDC : nullptr);
+BOOL CDC::AttachNew(HDC hDC) {
     if (Attach(hDC)) {
         return TRUE;
     }
     ::DeleteDC(hDC);
     return FALSE;
+}
+
+BOOL CDC::CreateCompatibleDC(CDC* pDC) {
+    return AttachNew(::CreateCompatibleDC(pDC != nullptr ? pDC->m_hDC : nullptr));
+}
+
+BOOL CDC::CreateDC(LPCSTR lpszDriverName, LPCSTR lpszDeviceName, LPCSTR lpszOutput, LPCVOID lpInitData) {
+    return AttachNew(::CreateDCA(lpszDriverName, lpszDeviceName, lpszOutput, lpInitData));
+}
+
+BOOL CDC::CreateIC(LPCSTR lpszDriverName, LPCSTR lpszDeviceName, LPCSTR lpszOutput, LPCVOID lpInitData) {
+    return AttachNew(::CreateICA(lpszDriverName, lpszDeviceName, lpszOutput, lpInitData));
 }
 
 BOOL CDC::DeleteDC() { return m_hDC != nullptr && ::DeleteDC(Detach()); }
@@ -50,6 +61,11 @@ CBrush* CDC::SelectObject(CBrush* pBrush) {
 CBitmap* CDC::SelectObject(CBitmap* pBitmap) {
     const HGDIOBJ hBitmap = pBitmap != nullptr ? pBitmap->m_hObject : nullptr;
     return CBitmap::FromHandle(static_cast<HBITMAP>(::SelectObject(m_hDC, hBitmap)));
+}
+
+CFont* CDC::SelectObject(CFont* pFont) {
+    const HGDIOBJ hFont = pFont != nullptr ? pFont->m_hObject : nullptr;
+    return CFont::FromHandle(static_cast<HFONT>(::SelectObject(m_hDC, hFont)));
 }
 
 CGdiObject* CDC::SelectStockObject(int nIndex) {
@@ -86,6 +102,12 @@ void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
     if (brush.m_hObject != nullptr) {
         FillRect(lpRect, &brush);
     }
+}
+
+CSize CDC::GetTextExtent(LPCSTR lpszString, int nCount) const {
+    CSize size(0, 0);
+    ::GetTextExtentPoint32A(m_hDC, lpszString, nCount, &size);
+    return size;
 }
 
 CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd != nullptr ? pWnd->m_hWnd : nullptr) {

@@ -6,6 +6,7 @@ IMPLEMENT_DYNCREATE(CGdiObject, CObject)
 IMPLEMENT_DYNCREATE(CPen, CGdiObject)
 IMPLEMENT_DYNCREATE(CBrush, CGdiObject)
 IMPLEMENT_DYNCREATE(CBitmap, CGdiObject)
+IMPLEMENT_DYNCREATE(CFont, CGdiObject)
 
 // The tables are never torn down: objects of static life leave them as the process ends.
 static auto& Map() {
@@ -40,11 +41,14 @@ CBrush* CBrush::FromHandle(HBRUSH hBrush) { return ObjectOf<CBrush>(hBrush); }
 
 CBitmap* CBitmap::FromHandle(HBITMAP hBitmap) { return ObjectOf<CBitmap>(hBitmap); }
 
+CFont* CFont::FromHandle(HFONT hFont) { return ObjectOf<CFont>(hFont); }
+
 void CGdiObject::DeleteTempMap() {
     Temporary<CGdiObject>().FreeAll();
     Temporary<CPen>().FreeAll();
     Temporary<CBrush>().FreeAll();
     Temporary<CBitmap>().FreeAll();
+    Temporary<CFont>().FreeAll();
 }
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject) {
@@ -66,4 +70,23 @@ BOOL CGdiObject::DeleteObject() { return m_hObject != nullptr && ::DeleteObject(
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
     return AttachNew(::CreateCompatibleBitmap(pDC->m_hDC, nWidth, nHeight));
+}
+
+BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
+                       BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision,
+                       BYTE nClipPrecision, BYTE nQuality, BYTE nPitchAndFamily, LPCSTR lpszFacename) {
+    return AttachNew(::CreateFontA(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline,
+                                   cStrikeOut, nCharSet, nOutPrecision, nClipPrecision, nQuality,
+                                   nPitchAndFamily, lpszFacename));
+}
+
+BOOL CFont::CreatePointFont(int nPointSize, LPCSTR lpszFaceName, CDC* pDC) {
+    const HDC hDC = pDC != nullptr ? pDC->m_hDC : ::GetDC(nullptr);
+    constexpr int TenthsInAnInch = 720;
+    const int nHeight = -MulDiv(nPointSize, ::GetDeviceCaps(hDC, LOGPIXELSY), TenthsInAnInch);
+    if (pDC == nullptr) {
+        ::ReleaseDC(nullptr, hDC);
+    }
+    return AttachNew(
+        ::CreateFontA(nHeight, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, lpszFaceName));
 }

@@ -7,6 +7,7 @@
 #include "win32/kernel.h"
 #include "win32/rect.h"
 #include "win32/richedit.h"
+#include "win32/text.h"
 #include "win32/types.h"
 #include "win32/unsuffixed.h"
 #include "win32/window.h"

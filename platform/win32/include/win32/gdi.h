@@ -21,6 +21,8 @@ constexpr int HOLLOW_BRUSH = NULL_BRUSH;
 constexpr int WHITE_PEN = 6;
 constexpr int BLACK_PEN = 7;
 constexpr int NULL_PEN = 8;
+constexpr int SYSTEM_FONT = 13;
+constexpr int DEFAULT_GUI_FONT = 17;
 
 constexpr int COLOR_WINDOW = 5;
 constexpr int COLOR_WINDOWFRAME = 6;
@@ -158,18 +160,19 @@ HGDIOBJ SelectObject(HDC dc, HGDIOBJ object);
 /// FALSE for an object that is selected in a context. A stock object answers TRUE and stays.
 BOOL DeleteObject(HGDIOBJ object);
 HGDIOBJ GetStockObject(int index);
-/// Writes a BITMAP, LOGPEN or LOGBRUSH, at most `size` bytes; answers the bytes written, or needed for a null
-/// `out`.
+/// Writes a BITMAP, LOGPEN, LOGBRUSH or LOGFONTA, at most `size` bytes; answers the bytes written, or needed
+/// for a null `out`.
 int GetObjectA(HGDIOBJ object, int size, LPVOID out);
 
 /// PS_SOLID, PS_DOT (3 pixels on, 3 off; solid when wider than 1) or PS_NULL; null for another style. A width
 /// of 0 is 1.
 HPEN CreatePen(int style, int width, COLORREF color);
 HBRUSH CreateSolidBrush(COLORREF color);
-/// One bit a pixel when the bitmap in `dc` is such a one, as a new memory context's is; else 32.
+/// As many bits a pixel as the bitmap in `dc` has, one in a new memory context; 32 when `dc` is none of
+/// memory.
 HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height);
-/// 1 or 32 bits a pixel. `bits` (null: all 0) has rows padded to 16 bits; a set bit of the first kind is
-/// white.
+/// 1, 24 (blue, green, red) or 32 bits a pixel. `bits` (null: all 0) has rows padded to 16 bits; a set bit of
+/// the first kind is white.
 HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits);
 /// 32 bits a pixel; `*bits` is the pixels, owned by the bitmap. A negative height stands the first row at the
 /// top, a positive one at the bottom.

@@ -5,6 +5,7 @@
 
 #include "win32/gdi.h"
 #include "win32/kernel.h"
+#include "win32/text.h"
 #include "win32/window.h"
 
 /// Inlined always, so that the module that calls it is the one beside which the file is looked for.
@@ -59,3 +60,23 @@ inline BOOL PeekMessage(LPMSG message, HWND window, UINT first, UINT last, UINT 
 inline LRESULT DispatchMessage(const MSG* message) { return DispatchMessageA(message); }
 inline HCURSOR LoadCursor(HINSTANCE instance, LPCSTR name) { return LoadCursorA(instance, name); }
 inline int GetObject(HGDIOBJ object, int size, LPVOID out) { return GetObjectA(object, size, out); }
+inline HFONT CreateFontIndirect(const LOGFONTA* font) { return CreateFontIndirectA(font); }
+inline HFONT CreateFont(int height, int width, int escapement, int orientation, int weight, DWORD italic,
+                        DWORD underline, DWORD strikeOut, DWORD charSet, DWORD outPrecision,
+                        DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily, LPCSTR face) {
+    return CreateFontA(height, width, escapement, orientation, weight, italic, underline, strikeOut, charSet,
+                       outPrecision, clipPrecision, quality, pitchAndFamily, face);
+}
+inline int GetTextFace(HDC dc, int size, LPSTR face) { return GetTextFaceA(dc, size, face); }
+inline BOOL GetTextMetrics(HDC dc, LPTEXTMETRICA metrics) { return GetTextMetricsA(dc, metrics); }
+inline BOOL GetTextExtentPoint32(HDC dc, LPCSTR text, int count, LPSIZE size) {
+    return GetTextExtentPoint32A(dc, text, count, size);
+}
+inline BOOL GetTextExtentExPoint(HDC dc, LPCSTR text, int count, int maxExtent, LPINT fit, LPINT dx,
+                                 LPSIZE size) {
+    return GetTextExtentExPointA(dc, text, count, maxExtent, fit, dx, size);
+}
+inline BOOL TextOut(HDC dc, int x, int y, LPCSTR text, int count) { return TextOutA(dc, x, y, text, count); }
+inline HDC CreateIC(LPCSTR driver, LPCSTR device, LPCSTR output, LPCVOID init) {
+    return CreateICA(driver, device, output, init);
+}
