@@ -1,19 +1,8 @@
 #include "code_page.h"
 
-#include <array>
 #include <cstdio>
 
 namespace {
-
-/// Code page 1252 from 0x80 to 0x9F; 0 where it has no character. Everywhere else bytes are their own code
-/// points.
-constexpr std::array<unsigned, 32> Middle = {
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178,
-};
-
-unsigned CodePoint(unsigned char c) { return c >= 0x80 && c < 0xA0 ? Middle[c - 0x80U] : c; }
 
 void AppendUtf8(std::string& text, unsigned nCode) {
     if (nCode < 0x80) {
@@ -28,21 +17,39 @@ void AppendUtf8(std::string& text, unsigned nCode) {
     }
 }
 
+void AppendEscape(std::string& text, unsigned char c) {
+    char escape[5];
+    std::snprintf(escape, sizeof(escape), "\\x%02X", c);
+    text += escape;
+}
+
+/// The character that the first one or two bytes stand for; 0 when they stand for none. The code pages hold
+/// no character beyond 16 bits.
+unsigned CharacterOf(const char* pBytes, int nBytes) {
+    WCHAR wide = 0;
+    return ::MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, pBytes, nBytes, &wide, 1) == 1 ? wide : 0U;
+}
+
 } // namespace
 
 std::string ToUtf8(const std::string& bytes) {
     std::string text;
     text.reserve(bytes.size());
-    for (const char byte : bytes) {
-        const auto c = static_cast<unsigned char>(byte);
-        const unsigned nCode = CodePoint(c);
+    for (std::size_t n = 0; n < bytes.size();) {
+        const auto c = static_cast<unsigned char>(bytes[n]);
+        const bool bPair = ::IsDBCSLeadByte(c) && n + 1 < bytes.size();
+        const unsigned nCode = c < 0x80 ? c : CharacterOf(&bytes[n], bPair ? 2 : 1);
         if (nCode != 0 || c == 0) {
             AppendUtf8(text, nCode);
+            n += bPair ? 2 : 1;
         } else {
-            char escape[5];
-            std::snprintf(escape, sizeof(escape), "\\x%02X", c);
-            text += escape;
+            AppendEscape(text, c);
+            n++;
         }
     }
     return text;
+}
+
+std::string BytesOf(const CString& text) {
+    return {static_cast<LPCSTR>(text), static_cast<std::size_t>(text.GetLength())};
 }

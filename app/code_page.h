@@ -3,5 +3,9 @@
 
 #include <string>
 
-/// The bytes (code page 1252) as UTF-8. A byte that is no character there becomes `\xHH`.
+#include <afxwin.h>
+
+/// The bytes, in the system code page, as UTF-8. A byte that is no character there becomes `\xHH`.
 std::string ToUtf8(const std::string& bytes);
+/// The text's bytes, zeros included.
+std::string BytesOf(const CString& text);

@@ -6,6 +6,7 @@
 #include "code_page.h"
 #include "desk/recorded_event.h"
 #include "desk/tool_catalog.h"
+#include "dump_editor.h"
 #include "dump_nodes.h"
 #include "dump_trace.h"
 #include "image/node_host.h"
@@ -144,8 +145,8 @@ constexpr std::array<DumpRow, 14> Dumps = {{
      }},
     {"cursor", [](CStage& stage, Records) { return CursorJson(stage); }},
     {"input", [](CStage& stage, Records) { return InputJson(stage); }},
-    {"editor", [](CStage&, Records) { return Json(nullptr); }},
-    {"clipboard", [](CStage&, Records) { return Json(nullptr); }},
+    {"editor", [](CStage& stage, Records) { return EditorJson(stage); }},
+    {"clipboard", [](CStage& stage, Records) { return ClipboardJson(stage); }},
     {"tool", [](CStage& stage, Records) { return ToolJson(stage); }},
     {"menu", [](CStage&, Records) { return Json(nullptr); }},
     {"nodes", [](CStage& stage, Records) { return NodesJson(stage); }},
@@ -167,6 +168,8 @@ bool Dump(CStage& stage, const std::string& name, Records records, Json& json) {
 std::string JsonText(const Json& json) {
     return json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }
+
+std::string QuotedText(const CString& text) { return JsonText(ToUtf8(BytesOf(text))); }
 
 std::string ColorText(COLORREF color) {
     char text[8];

@@ -18,5 +18,7 @@ enum class Records { Keep, Take };
 bool Dump(CStage& stage, const std::string& name, Records records, Json& json);
 /// One line of text.
 std::string JsonText(const Json& json);
+/// The text as JSON, in quotes.
+std::string QuotedText(const CString& text);
 /// "#RRGGBB".
 std::string ColorText(COLORREF color);

@@ -1,14 +1,17 @@
 #include "stage.h"
 
 #include "bus/masks.h"
+#include "editor_host.h"
 #include "image/node_host.h"
 #include "image/picture_file.h"
 #include "image/picture_node.h"
 #include "image/view_host.h"
+#include "platform/code_page.h"
 #include "platform/display.h"
 #include "platform/faults.h"
 #include "platform/input.h"
 #include "platform/surface.h"
+#include "services/services_host.h"
 
 namespace {
 
@@ -18,7 +21,16 @@ constexpr char EntryName[] = "g_fnLoadAndLinkToolCat";
 constexpr int StartWidth = 720;
 constexpr int StartHeight = 480;
 constexpr int StartDpi = 96;
+constexpr UINT StartCodePage = 1252;
+constexpr char StartFont[] = "Arial";
 constexpr COLORREF PlaceholderFill = RGB(0x80, 0x80, 0x80);
+
+void EmptyTheClipboard() {
+    if (::OpenClipboard(nullptr)) {
+        ::EmptyClipboard();
+        ::CloseClipboard();
+    }
+}
 
 /// What one stage sets in the process and the next must not find.
 void ResetSurroundings() {
@@ -26,6 +38,9 @@ void ResetSurroundings() {
     platform::ResetInput();
     platform::SetPointer({0, 0});
     platform::SetDisplayDpi(StartDpi);
+    platform::SetCodePage(StartCodePage);
+    SetDefaultFontName(StartFont);
+    EmptyTheClipboard();
     bus::ClearMasks();
     trace::TurnOn(false);
     trace::Take();
@@ -71,7 +86,7 @@ void JoinPlaceholder(CImgNode& object, CImgNode& frame, const CRect& rect) {
 
 } // namespace
 
-CStage::CStage() : m_names(m_desk) {
+CStage::CStage() : m_names(m_desk), m_pEditorHost(std::make_unique<CEditorHost>(m_desk)) {
     ResetSurroundings();
     platform::SetClock(&m_clock);
     m_desk.CreateView(nullptr);
@@ -86,6 +101,7 @@ CStage::CStage() : m_names(m_desk) {
 
 CStage::~CStage() {
     ResetSurroundings();
+    m_pEditorHost.reset();
     m_desk.Close();
     if (m_hModule) {
         ::FreeLibrary(m_hModule);
@@ -98,6 +114,9 @@ ModuleState CStage::LoadModule() {
     if (!m_hModule) {
         m_hModule = ::LoadLibraryA(ModuleName);
         FARPROC pfnEntry = m_hModule ? ::GetProcAddress(m_hModule, EntryName) : nullptr;
+        if (m_hModule) {
+            m_pEditorHost->OnModuleLoaded(m_hModule);
+        }
         if (pfnEntry) {
             reinterpret_cast<LoadAndLinkToolCat>(reinterpret_cast<void*>(pfnEntry))(&m_desk);
         }
@@ -111,6 +130,7 @@ int CStage::DetachModule() {
         return 0;
     }
     trace::CQuietScope quiet;
+    m_pEditorHost->OnModuleGoes();
     m_desk.SwitchTool(nullptr, 0);
     GetUndoMgr()->Clear();
     m_desk.DropTools();
@@ -120,6 +140,8 @@ int CStage::DetachModule() {
 }
 
 bool CStage::NewPage(int nWidth, int nHeight, double dZoom) {
+    DestroyEditor();
+    EndEditor(); // A tool's own goes by its own road, while its page still stands.
     m_names.Clear();
     return m_desk.NewPage(nWidth, nHeight, dZoom);
 }

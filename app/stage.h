@@ -3,6 +3,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,11 @@
 enum class Ctrl { Up, Down };
 enum class Redraw { No, Yes };
 enum class KeyStates { Both, Async, Sync };
+enum class Show { Now, Later };
+
+class CEditorHost;
+class CInplaceEditor;
+struct EditorCalls;
 
 /// How a picture stands on the page beyond its place.
 struct PictureOptions {
@@ -32,6 +38,18 @@ struct ModuleState {
     bool loaded = false;
     bool resource = false; ///< whether the resource module stands beside it
     int tools = 0;         ///< how many tools the host has received
+};
+
+/// How a text is dragged in from outside.
+struct DropOffer {
+    UINT format = 1;  ///< a clipboard format; 1 is text
+    DWORD source = 0; ///< a drop_source; 0 is the target's own window
+    Ctrl ctrl = Ctrl::Up;
+};
+
+struct DropAnswer {
+    int result = 0;   ///< what the target answered; 0 when nobody takes drops there
+    DWORD effect = 0; ///< a drop_effect
 };
 
 /// The headless host: one desk, the module's tools, a clock that stands still, and names for nodes. One lives
@@ -125,6 +143,42 @@ class CStage {
     /// Lets the clock run, fires the timers in order, paints.
     void Wait(unsigned nMilliseconds);
 
+    /// A host-owned editor on the view, anchored at the point, in the former one's place; shown, it gets the
+    /// focus. The host ends it when its input ends. 1, or 0 when it cannot be made.
+    int NewEditor(CPoint ptAnchor, const std::string& text, Show show = Show::Now);
+    /// The host's editor, else the one that a tool has opened; null for none.
+    CInplaceEditor* Editor() const;
+    /// Its exported operations (editor_binding.h); null while the module is not loaded.
+    const EditorCalls* EditorOperations() const;
+    /// The following act on, or ask, the open editor; without one they do nothing or answer nothing.
+    void FocusEditor();
+    /// Ends its input; the host's editor goes with that.
+    void EndEditor();
+    /// Takes the host's editor away unasked: 1, or 0 when it has none.
+    int DestroyEditor();
+    void SelectText(int nLine1, int nIndex1, int nLine2, int nIndex2);
+    /// As m_fnGetText gives it: without blanks and empty lines at the ends.
+    std::string EditorText() const;
+    std::string SelectedText() const;
+    /// The lines as they are.
+    std::vector<std::string> EditorLines() const;
+    /// How often the input of host-owned editors has ended, and with which text the last time.
+    int EndedInputs() const;
+    const std::string& EndedText() const;
+    CEditorHost& EditorHost() { return *m_pEditorHost; }
+
+    /// A text from outside moves over the window at the point; it leaves the window it was over before.
+    DropAnswer Hover(const std::string& text, CPoint point, const DropOffer& offer = {});
+    /// The same, and then it is let go there.
+    DropAnswer Drop(const std::string& text, CPoint point, const DropOffer& offer = {});
+    void LeaveDrop();
+    /// Drag, begun on the selected text: 1 when that became a drag of the text, with its effect.
+    DropAnswer DragText(CPoint ptFrom, CPoint ptTo, Ctrl ctrl = Ctrl::Up);
+
+    /// The clipboard's text; none while it holds nothing. NUL ends a text.
+    std::optional<std::string> Clipboard() const;
+    void SetClipboard(const std::string& text);
+
     /// Selects through the current tool, without undo or panels. False without a current tool.
     bool Select(const std::vector<std::string>& names);
     BOOL Undo();
@@ -168,6 +222,13 @@ class CStage {
 
     CImgNode* PlaceNode(const std::string& name, CImgNode* pNode);
     HWND TargetOf(CPoint& point) const;
+    HWND DropWindowAt(CPoint& point);
+    DropAnswer OfferText(const std::string& text, CPoint point, const DropOffer& offer, int nPhase);
+    /// The road of a framework's pump: the window and those above it see a message first, then the frame's
+    /// accelerators, then its procedure.
+    void Deliver(MSG msg);
+    void Dispatch(HWND hWnd, UINT nMessage, WPARAM wParam, LPARAM lParam);
+    void DispatchAll(UINT nMessage);
     void SendMouse(UINT nMessage, CPoint point);
     void PostMouse(UINT nMessage, CPoint point);
     void SendKeyDown(int nKey);
@@ -181,6 +242,8 @@ class CStage {
     HMODULE m_hModule = nullptr;
     CDesk m_desk;
     CNames m_names;
+    std::unique_ptr<CEditorHost> m_pEditorHost;
+    HWND m_hHovered = nullptr; ///< the window that a text from outside is over
     std::vector<Accelerator> m_accelerators;
     std::vector<trace::Row> m_traceRows;
     std::vector<trace::Row> m_callRows;

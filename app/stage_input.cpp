@@ -3,35 +3,9 @@
 #include <algorithm>
 #include <cctype>
 
-#include "platform/input.h"
+#include "ctrl_scope.h"
 
 namespace {
-
-/// Holds Ctrl in both key states for the messages of one command, and leaves a Ctrl that was held before.
-class [[nodiscard]] CCtrlScope {
-  public:
-    explicit CCtrlScope(Ctrl ctrl)
-        : m_bAsync(ctrl == Ctrl::Down && ::GetAsyncKeyState(VK_CONTROL) >= 0),
-          m_bSync(ctrl == Ctrl::Down && ::GetKeyState(VK_CONTROL) >= 0) {
-        Set(true);
-    }
-    ~CCtrlScope() { Set(false); }
-    CCtrlScope(const CCtrlScope&) = delete;
-    CCtrlScope& operator=(const CCtrlScope&) = delete;
-
-  private:
-    void Set(bool bDown) {
-        if (m_bAsync) {
-            platform::SetAsyncKey(VK_CONTROL, bDown);
-        }
-        if (m_bSync) {
-            platform::SetSyncKey(VK_CONTROL, bDown);
-        }
-    }
-
-    bool m_bAsync;
-    bool m_bSync;
-};
 
 constexpr LPARAM OneRepeat = 1;
 constexpr LPARAM WasDown = LPARAM{1} << 30;
@@ -58,22 +32,30 @@ MSG MakeMessage(HWND hWnd, UINT nMessage, WPARAM wParam, LPARAM lParam) {
     return msg;
 }
 
-void Dispatch(HWND hWnd, UINT nMessage, WPARAM wParam, LPARAM lParam) {
+} // namespace
+
+void CStage::Deliver(MSG msg) {
+    if (AfxPreTranslateMessage(&msg) ||
+        (msg.message == WM_KEYDOWN && FireAccelerator(static_cast<int>(msg.wParam)))) {
+        return;
+    }
+    ::TranslateMessage(&msg);
+    ::DispatchMessageA(&msg);
+}
+
+void CStage::Dispatch(HWND hWnd, UINT nMessage, WPARAM wParam, LPARAM lParam) {
     if (hWnd) {
-        const MSG msg = MakeMessage(hWnd, nMessage, wParam, lParam);
-        ::DispatchMessageA(&msg);
+        Deliver(MakeMessage(hWnd, nMessage, wParam, lParam));
     }
 }
 
-/// Dispatches what the system makes on demand (paints or timers) until there is no more.
-void DispatchAll(UINT nMessage) {
+// What the system makes on demand (paints or timers), until there is no more.
+void CStage::DispatchAll(UINT nMessage) {
     MSG msg;
     while (::PeekMessageA(&msg, nullptr, nMessage, nMessage, PM_REMOVE)) {
-        ::DispatchMessageA(&msg);
+        Deliver(msg);
     }
 }
-
-} // namespace
 
 HWND CStage::TargetOf(CPoint& point) const {
     HWND hView = m_desk.View()->m_hWnd;
@@ -172,18 +154,17 @@ void CStage::SendKeyDown(int nKey) {
     const bool bRepeat = ::GetAsyncKeyState(nKey) < 0;
     SetBothKeys(nKey, true);
     HWND hFocus = ::GetFocus();
-    if (FireAccelerator(nKey) || !hFocus) {
+    if (!hFocus) {
+        FireAccelerator(nKey);
         return;
     }
     const LPARAM lParam = OneRepeat | (bRepeat ? WasDown : 0);
-    const MSG msg = MakeMessage(hFocus, WM_KEYDOWN, static_cast<WPARAM>(nKey), lParam);
     const std::size_t nBefore = platform::QueuedMessages();
-    ::TranslateMessage(&msg);
+    Dispatch(hFocus, WM_KEYDOWN, static_cast<WPARAM>(nKey), lParam);
     const bool bChar = platform::QueuedMessages() > nBefore;
-    ::DispatchMessageA(&msg);
     MSG msgChar;
     if (bChar && ::PeekMessageA(&msgChar, nullptr, WM_CHAR, WM_CHAR, PM_REMOVE)) {
-        ::DispatchMessageA(&msgChar);
+        Deliver(msgChar);
     }
 }
 
@@ -273,11 +254,7 @@ void CStage::QueueKeyDown(int nKey) {
 void CStage::Pump(int nCount) {
     MSG msg;
     while (nCount != 0 && platform::QueuedMessages() > 0 && ::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE)) {
-        const bool bAccelerator = msg.message == WM_KEYDOWN && FireAccelerator(static_cast<int>(msg.wParam));
-        if (!bAccelerator) {
-            ::TranslateMessage(&msg);
-            ::DispatchMessageA(&msg);
-        }
+        Deliver(msg);
         nCount--;
     }
     Paint();

@@ -5,14 +5,14 @@
 #include "bus/masks.h"
 #include "desk/guid_text.h"
 #include "desk/tool_catalog.h"
+#include "platform/code_page.h"
 #include "platform/display.h"
 #include "platform/faults.h"
 #include "scenario/commands.h"
 #include "scenario/error.h"
+#include "services/services_host.h"
 
 namespace {
-
-constexpr int SystemCodePage = 1252;
 
 constexpr std::array<const char*, 23> FaultNames = {
     "attach",      "addtool",          "tool",           "display-context", "device-context",
@@ -25,9 +25,16 @@ constexpr std::array<const char*, 23> FaultNames = {
 void CodePage(CRunner&, CArguments& args) {
     const int nCodePage = args.IntIn("N", 1, 65535);
     args.End();
-    if (nCodePage != SystemCodePage) {
-        throw CNotBuilt("codepage");
+    if (!platform::SetCodePage(static_cast<UINT>(nCodePage))) {
+        args.Fail("N is no code page of the system");
     }
+}
+
+void DefaultFont(CRunner&, CArguments& args) {
+    const bool bNone = args.TakeWord("none");
+    const std::string name = bNone ? "" : args.Name("NAME");
+    args.End();
+    SetDefaultFontName(bNone ? nullptr : name.c_str());
 }
 
 void Dpi(CRunner&, CArguments& args) {
@@ -158,7 +165,7 @@ void Ask(CRunner& run, CArguments& args) {
 constexpr std::array<CommandRow, 8> Rows = {{
     {"codepage", "codepage N", CodePage, true},
     {"dpi", "dpi N", Dpi, true},
-    {"default-font", "default-font NAME|none", nullptr, true},
+    {"default-font", "default-font NAME|none", DefaultFont, true},
     {"fault", "fault NAME [once] [after N] | fault clear", Fault, true},
     {"module", "module load|detach", Module},
     {"bus", "bus remove KIND[/{IFACE}] | bus restore KIND[/{IFACE}] | bus add 38|45 [searches]", Bus},

@@ -2,6 +2,7 @@
 #include <climits>
 
 #include "scenario/commands.h"
+#include "scenario/editor_operations.h"
 #include "scenario/error.h"
 
 namespace {
@@ -144,9 +145,9 @@ void Focus(CRunner& run, CArguments& args) {
     const int nWhere = args.OneOf("view, editor or none", {"view", "none", "editor"});
     args.End();
     if (nWhere == 2) {
-        throw CNotBuilt("focus editor");
-    }
-    if (nWhere == 0) {
+        RequireEditor(run);
+        run.Stage().FocusEditor();
+    } else if (nWhere == 0) {
         run.Stage().FocusView();
     } else {
         run.Stage().FocusNone();

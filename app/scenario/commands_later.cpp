@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr std::array<CommandRow, 16> Rows = {{
+constexpr std::array<CommandRow, 9> Rows = {{
     {"text",
      "text NAME \"TEXT\" X Y [font \"F\"] [px N] [bold] [italic] [underline] [align 0|1|2] [color #RRGGBB] "
      "[effect outline|glow|emboss] [off-page]",
@@ -20,13 +20,6 @@ constexpr std::array<CommandRow, 16> Rows = {{
     {"frame", "frame apply FILE | apply-to FILE NAME... | remove | query", nullptr},
     {"attr", "attr font \"F\" | size PT | align N | style BITS | color #RRGGBB", nullptr},
     {"edit", "edit NAME X Y", nullptr},
-    {"editor", "editor new X Y \"TEXT\" [hidden] | editor OPERATION ARG... | editor destroy", nullptr},
-    {"convert", "convert pt2px|px2pt|px2twip|twip2px N | convert dpi", nullptr},
-    {"clipboard", "clipboard \"TEXT\"", nullptr},
-    {"drop", "drop \"TEXT\" X Y [ctrl] [source N] [format N]", nullptr},
-    {"hover", "hover \"TEXT\" X Y [ctrl] [source N] [format N]", nullptr},
-    {"leave", "leave", nullptr},
-    {"dragtext", "dragtext X1 Y1 X2 Y2 [ctrl]", nullptr},
 }};
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "image/picture_file.h"
 #include "platform/surface.h"
 #include "scenario/commands.h"
+#include "scenario/editor_export.h"
 #include "scenario/error.h"
 #include "scenario/expect.h"
 
@@ -68,7 +69,9 @@ void Render(CRunner& run, CArguments& args) {
 void Export(CRunner& run, CArguments& args) {
     const int nWhat = args.OneOf("what", {"richtext", "mask", "image", "base", "source-base"});
     if (nWhat < 3) {
-        throw CNotBuilt("export");
+        constexpr CommandHandler Exports[] = {ExportRichText, ExportTextMask, ExportTextImage};
+        Exports[nWhat](run, args);
+        return;
     }
     const std::string file = args.Name("FILE");
     args.End();

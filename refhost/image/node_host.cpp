@@ -103,10 +103,7 @@ void CNodeBookkeeping::Leave(const CImgNode& node) { LiveNodeTable().erase(&node
 
 bool CNodeBookkeeping::IsLive(const CImgNode* pNode) { return LiveNodeTable().contains(pNode); }
 
-bool CNodeBookkeeping::CopyFields(const CImgNode& from, CImgNode& to) {
-    to.m_nType = from.m_nType;
-    to.m_tx = from.m_tx;
-    to.m_tx.hMask = 0;
+void CNodeBookkeeping::CopyValues(const CImgNode& from, CImgNode& to) {
     to.m_nBrightness = from.m_nBrightness;
     to.m_nContrast = from.m_nContrast;
     to.m_nTransparency = from.m_nTransparency;
@@ -118,6 +115,13 @@ bool CNodeBookkeeping::CopyFields(const CImgNode& from, CImgNode& to) {
     to.m_nKeepProportions = from.m_nKeepProportions;
     to.m_nPictureWidth = from.m_nPictureWidth;
     to.m_nPictureHeight = from.m_nPictureHeight;
+}
+
+bool CNodeBookkeeping::CopyFields(const CImgNode& from, CImgNode& to) {
+    to.m_nType = from.m_nType;
+    to.m_tx = from.m_tx;
+    to.m_tx.hMask = 0;
+    CopyValues(from, to);
     to.m_nCopyOf = from.m_nId;
     return CopyBuffer(from.m_hImage, to.m_hImage) && CopyBuffer(from.m_tx.hMask, to.m_tx.hMask) &&
            CopyBuffer(from.m_hTransSrcImage, to.m_hTransSrcImage) &&

@@ -47,6 +47,8 @@ struct CNodeBookkeeping {
     static void Register(CImgNode& node, CImgDoc* pDoc);
     /// Takes the node out of the document's lists, index and set.
     static void Unregister(CImgNode& node);
+    /// Copies the plain public values but those of the transform block.
+    static void CopyValues(const CImgNode& from, CImgNode& to);
     /// Copies every public field but identity, links and buffers, which get copies of their own. False when
     /// one fails.
     static bool CopyFields(const CImgNode& from, CImgNode& to);

@@ -3,13 +3,42 @@
 #include <cstring>
 #include <memory>
 #include <new>
+#include <utility>
 
+#include "buffer/buffer_host.h"
+#include "host/text_engine.h"
 #include "image/node_host.h"
 #include "platform/faults.h"
+#include "text/text_effect.h"
+
+namespace {
+
+/// Takes a buffer over from another owner and frees what was there.
+void MoveBuffer(HBUF32& hFrom, HBUF32& hTo) { CBufferPtr(std::exchange(hTo, std::exchange(hFrom, 0))); }
+
+/// The companion follows the object that it is linked to.
+void MoveCompanion(CImgNode*& pFrom, CImgNode*& pTo, const CImgNode* pOldOwner, CImgNode* pNewOwner) {
+    pTo = std::exchange(pFrom, nullptr);
+    if (pTo != nullptr && pTo->m_pOwner == pOldOwner)
+        pTo->m_pOwner = pNewOwner;
+}
+
+void CopyText(const CTextNode& from, CTextNode& to) {
+    to.m_nFontSize = from.m_nFontSize;
+    to.m_nBold = from.m_nBold;
+    to.m_nItalic = from.m_nItalic;
+    to.m_nUnderline = from.m_nUnderline;
+    to.m_nAlignment = from.m_nAlignment;
+    to.m_crText = from.m_crText;
+    to.m_strText = from.m_strText;
+    to.m_strFontName = from.m_strFontName;
+}
+
+} // namespace
 
 CTextNode::CTextNode(CImgDoc* pDoc) : CImgNode(pDoc) { m_nType = node_type::Text; }
 
-CTextNode::~CTextNode() = default;
+CTextNode::~CTextNode() { CTextEffectState::Reset(*this); }
 
 int CTextNode::PtInMask(CPoint point) {
     CRect rcNode;
@@ -20,16 +49,10 @@ int CTextNode::PtInMask(CPoint point) {
 CImgNode* CTextNode::Duplicate() {
     std::unique_ptr<CTextNode> pCopy(
         platform::FaultTrips("copy") ? nullptr : new CTextNode(CNodeBookkeeping::DocumentOf(*this)));
-    if (pCopy == nullptr || !CNodeBookkeeping::CopyFields(*this, *pCopy))
+    if (pCopy == nullptr || !CNodeBookkeeping::CopyFields(*this, *pCopy) ||
+        !CTextEffectState::Copy(*this, *pCopy))
         return nullptr;
-    pCopy->m_nFontSize = m_nFontSize;
-    pCopy->m_nBold = m_nBold;
-    pCopy->m_nItalic = m_nItalic;
-    pCopy->m_nUnderline = m_nUnderline;
-    pCopy->m_nAlignment = m_nAlignment;
-    pCopy->m_crText = m_crText;
-    pCopy->m_strText = m_strText;
-    pCopy->m_strFontName = m_strFontName;
+    CopyText(*this, *pCopy);
     return pCopy.release();
 }
 
@@ -40,10 +63,11 @@ void CTextNode::m_fnGetText(CString& strText) const {
     const int nLength = m_strText.GetLength();
     for (int i = 0; i < nLength; ++i) {
         const char ch = m_strText[i];
-        // A line may end by CR LF, LF or CR.
-        if (ch == '\r' && i + 1 < nLength && m_strText[i + 1] == '\n')
-            continue;
-        strJoined += ch == '\r' ? '\n' : ch;
+        const bool bBreak = ch == '\r' || ch == '\n';
+        strJoined += bBreak ? '\n' : ch;
+        // A line may end by one of the two, or by both in either order.
+        if (bBreak && i + 1 < nLength && m_strText[i + 1] == ('\r' ^ '\n' ^ ch))
+            ++i;
     }
     strText = strJoined;
 }
@@ -54,4 +78,42 @@ char* CTextNode::CloneFontName() const {
     if (pszName != nullptr)
         std::memcpy(pszName, static_cast<LPCSTR>(m_strFontName), nBytes);
     return pszName;
+}
+
+void CTextNode::m_fnAssign(textObject& object) {
+    if (!SetImage(object.m_hImage, object.m_hMask, object.m_ptOrigin.x, object.m_ptOrigin.y, 0))
+        return;
+    object.m_hImage = object.m_hMask = 0;
+    CBufferPtr(std::exchange(m_hTransSrcImage, 0));
+    CBufferPtr(std::exchange(m_hTransSrcMask, 0));
+    CTextEffectState::Reset(*this);
+    m_nFontSize = std::exchange(object.m_nFontSize, 0);
+    m_nBold = std::exchange(object.m_nBold, 0);
+    m_nItalic = std::exchange(object.m_nItalic, 0);
+    m_nUnderline = std::exchange(object.m_nUnderline, 0);
+    m_nAlignment = std::exchange(object.m_nAlignment, 0);
+    m_crText = std::exchange(object.m_crText, 0);
+    m_strText = std::exchange(object.m_strText, CString());
+    m_strFontName = std::exchange(object.m_strFontName, CString());
+}
+
+void CTextNode::m_fnMoveMemberDataFrom(CTextNode* pOther) {
+    if (pOther == nullptr || pOther == this)
+        return;
+    MoveBuffer(pOther->m_hImage, m_hImage);
+    MoveBuffer(pOther->m_tx.hMask, m_tx.hMask);
+    MoveBuffer(pOther->m_hTransSrcImage, m_hTransSrcImage);
+    MoveBuffer(pOther->m_hTransSrcMask, m_hTransSrcMask);
+    MoveBuffer(pOther->m_hMergeBuf, m_hMergeBuf);
+    const HBUF32 hMask = m_tx.hMask;
+    m_tx = pOther->m_tx;
+    m_tx.hMask = hMask;
+    CNodeBookkeeping::CopyValues(*pOther, *this);
+    CopyText(*pOther, *this);
+    CTextEffectState::Move(*pOther, *this);
+    m_pOwner = std::exchange(pOther->m_pOwner, nullptr);
+    MoveCompanion(pOther->m_pFrameNode, m_pFrameNode, pOther, this);
+    MoveCompanion(pOther->m_pShadowNode, m_pShadowNode, pOther, this);
+    CNodeBookkeeping::PlaceChanged(*this);
+    CNodeBookkeeping::PlaceChanged(*pOther);
 }

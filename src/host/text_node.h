@@ -40,8 +40,8 @@ class CTextNode : public CImgNode {
     int m_fnCopyTextEffectFrom(const CTextNode* pOther);
     /// Gives the effect another colour; nothing is drawn yet. Answers 1, or 0 for null.
     int m_fnChangeTextEffectColor(const COLORREF* pcrColor);
-    /// Draws the text anew with its effect, which may change the node's size; the text's own pixels stay where
-    /// they are. Answers 1, also without an effect, or 0 when memory is out.
+    /// Draws the text anew with its effect, which may change the node's size; the text's own pixels stay
+    /// where they are. Answers 1, also without an effect, or 0 when memory is out.
     int m_fnRegenerateTextEffect();
     /// 1 when the node has an effect, else 0.
     int m_fnIsTextEffectApplied() const;
@@ -54,4 +54,12 @@ class CTextNode : public CImgNode {
     COLORREF m_crText = 0;
     CString m_strText;
     CString m_strFontName;
+
+  private:
+    friend struct CTextEffectState;
+
+    std::int32_t m_nEffect = 0; ///< the host's number of the effect's kind, 0 for none
+    COLORREF m_crEffect = 0;
+    HBUF32 m_hTextMask = 0; ///< owned; the text's own coverage, 0 while the picture shows nothing else
+    CPoint m_ptText;        ///< where that stands, in pixels of the picture as it was before any scaling
 };

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "host/convert.h"
 #include "host/services.h"
 #include "refhost_help.h"
 #include "services/services_host.h"
@@ -75,4 +76,42 @@ TEST(DefaultFont, TheNameIsCutToTheBufferAndMayBeMissing) {
     EXPECT_EQ(0, gfnGetDefaultFontNameFromQuorProd(szName, 6));
     EXPECT_STREQ("Cou", szName);
     SetDefaultFontName("Arial");
+}
+
+TEST(BitmapToBuffer, EveryDepthBecomesBlueGreenRed) {
+    struct Row {
+        UINT nDepth;
+        std::vector<std::uint8_t> bits; ///< rows padded to 2 bytes
+        std::vector<std::uint8_t> pixels;
+    };
+    // One pixel wide and two high: white and black, or two colours.
+    const std::vector<Row> rows = {{1, {0x80, 0, 0x7F, 0}, {255, 255, 255, 0, 0, 0}},
+                                   {24, {1, 2, 3, 0, 4, 5, 6, 0}, {1, 2, 3, 4, 5, 6}},
+                                   {32, {1, 2, 3, 0, 4, 5, 6, 0}, {1, 2, 3, 4, 5, 6}}};
+    for (const Row& row : rows) {
+        HBITMAP hBitmap = ::CreateBitmap(1, 2, 1, row.nDepth, row.bits.data());
+        HBUF32 hBuf = 0;
+
+        EXPECT_EQ(1, cvt32DDBToBuf(hBitmap, &hBuf, 0)) << row.nDepth;
+
+        const CBufferPtr buffer(hBuf);
+        EXPECT_EQ(3, buffer_host::Look(hBuf).unit);
+        EXPECT_EQ(row.pixels, BytesOf(buffer)) << row.nDepth;
+        ::DeleteObject(hBitmap);
+    }
+}
+
+TEST(BitmapToBuffer, WhatIsNoBitmapAndAMissingBufferGiveNone) {
+    HPEN hPen = ::CreatePen(PS_SOLID, 1, 0);
+    HBITMAP hBitmap = ::CreateBitmap(2, 2, 1, 32, nullptr);
+    HBUF32 hBuf = 1;
+
+    EXPECT_EQ(0, cvt32DDBToBuf(nullptr, &hBuf, 0));
+    EXPECT_EQ(0, hBuf);
+    EXPECT_EQ(0, cvt32DDBToBuf(reinterpret_cast<HBITMAP>(hPen), &hBuf, 0));
+    EXPECT_EQ(0, cvt32DDBToBuf(hBitmap, nullptr, 0));
+    const CFaultScope fault("buffer");
+    EXPECT_EQ(0, cvt32DDBToBuf(hBitmap, &hBuf, 0));
+    ::DeleteObject(hBitmap);
+    ::DeleteObject(hPen);
 }

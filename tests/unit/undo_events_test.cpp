@@ -6,12 +6,16 @@
 #include "bus/bus_object.h"
 #include "host/document_service.h"
 #include "tools/select_tool.h"
+#include "undo/add_object_event.h"
 #include "undo/align_event.h"
 #include "undo/arrange_event.h"
+#include "undo/attribute_changed_event.h"
+#include "undo/display_event.h"
 #include "undo/move_changed_event.h"
 #include "undo/resize_changed_event.h"
 #include "undo/sel_changed_event.h"
 #include "undo/shadow_changed_event.h"
+#include "undo/text_edit_changed_event.h"
 
 namespace {
 
@@ -31,6 +35,10 @@ const std::vector<ClassRow>& ClassRows() {
         {RUNTIME_CLASS(CShadowMoveChangedUndoEvent), "CShadowMoveChangedUndoEvent", TRUE, TRUE},
         {RUNTIME_CLASS(CuArrangeUndoEvent), "CuArrangeUndoEvent", FALSE, FALSE},
         {RUNTIME_CLASS(CuAlignUndoEvent), "CuAlignUndoEvent", FALSE, FALSE},
+        {RUNTIME_CLASS(CAddObjectUndoEvent), "CAddObjectUndoEvent", FALSE, TRUE},
+        {RUNTIME_CLASS(CuDisplayUndoEvent), "CuDisplayUndoEvent", FALSE, TRUE},
+        {RUNTIME_CLASS(CObjectAttributeChangedUndoEvent), "CObjectAttributeChangedUndoEvent", TRUE, FALSE},
+        {RUNTIME_CLASS(CTextEditChangedUndoEvent), "CTextEditChangedUndoEvent", FALSE, TRUE},
     };
     return rows;
 }
