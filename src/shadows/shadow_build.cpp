@@ -180,6 +180,12 @@ int CToolCore::m_fnCreateShadow(CImgNode* pNode, int nOffsetX, int nOffsetY, con
     return 1;
 }
 
+int CToolCore::m_fnCreateShadow(CImgNode* pNode, const CShadowParam& param) {
+    const ShadowSettings settings = SettingsOf(param);
+    return m_fnCreateShadow(pNode, settings.nOffsetX, settings.nOffsetY, &settings.crColor,
+                            settings.nSoftness, settings.nTransparency);
+}
+
 // Takes the soft mask over. The new node stands directly behind the object and the two know each other; null
 // on failure.
 CImgNode* CToolCore::MakeShadowNode(CCanvas& canvas, CImgNode& object, const CTxParam& block, HBUF32 hSoft,
@@ -221,11 +227,10 @@ int CToolCore::m_fnRegenerateShadow(CImgNode* pNode) {
     if (!canvas.HasDocument()) {
         return 0;
     }
-    const ShadowSettings settings = SettingsOf(pNode->m_shadow);
+    const CShadowParam param = pNode->m_shadow;
     const bool bDetached = canvas.Objects().Find(pNode->m_pShadowNode) == nullptr;
     m_fnRemoveShadowOf(pNode);
-    m_fnCreateShadow(pNode, settings.nOffsetX, settings.nOffsetY, &settings.crColor, settings.nSoftness,
-                     settings.nTransparency);
+    m_fnCreateShadow(pNode, param);
     // Undo events keep shadows off the page this way.
     POSITION position =
         bDetached && pNode->m_pShadowNode ? canvas.Objects().Find(pNode->m_pShadowNode) : nullptr;

@@ -9,6 +9,10 @@ class CDisplayTool : public CObjectTool {
     int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
     const GUID& GetToolClassId() override;
 
+    /// Presses and releases are always taken.
+    int OnLButtonDown(UINT nFlags, CPoint point) override;
+    int OnLButtonUp(UINT nFlags, CPoint point) override;
+
     /// 52. The bus kind of the host page that the tool pairs with.
     virtual int GetPanelKind();
 };
@@ -22,11 +26,22 @@ class CDisplayPageTool : public CDisplayTool {
     int GetPanelKind() override;
 };
 
-/// Kind 24: of the text page.
+/// Kind 24: of the text page. A click on empty ground goes on to the tool that is current by then.
 class CTextDisplayTool : public CDisplayTool {
   public:
     int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
     const GUID& GetToolClassId() override;
     const GUID& GetToolGroupId() override;
     int GetPanelKind() override;
+
+    int OnLButtonDblClk(UINT nFlags, CPoint point) override;
+    int OnLButtonDown(UINT nFlags, CPoint point) override;
+    int OnLButtonUp(UINT nFlags, CPoint point) override;
+
+  private:
+    bool IsClickOnNothing(CPoint point);
+    int ShowTextPage();
+    IToolInput* OtherToolInput();
+
+    bool m_bSelectedAtPress = false;
 };

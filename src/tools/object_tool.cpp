@@ -125,8 +125,6 @@ int CObjectTool::OnRButtonDown(UINT nFlags, CPoint point) {
 
 int CObjectTool::CanRunCommand() { return IsResizing() ? 0 : CToolBase::CanRunCommand(); }
 
-CTextNode* CObjectTool::ResizeTextNode(CImgNode*, RECT*, int) { return nullptr; }
-
 int CObjectTool::HandleUnderPoint(CImgNode* pNode, CPoint point) {
     CCanvas canvas(*this);
     if (!canvas || OnlySelectedNode(canvas) != pNode) {

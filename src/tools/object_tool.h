@@ -40,7 +40,8 @@ class CObjectTool : public CToolBase {
     void RemoveHandles(CImgNode* pNode);
     void DrawOutline(CCanvas& canvas, const Corners& corners);
     void ApplyResize(CImgNode* pNode);
-    void ResizeTo(CImgNode* pNode, const CRect& rcDoc);
+    CTextNode* ResizedText(const CTextNode& text, int nPixelSize, int nHandle);
+    void ResizeTextTo(CTextNode& text, const CRect& rcDoc);
 
     int m_nFirstStep = 1;
     CPoint m_ptPrevious; ///< client pixels; so the next

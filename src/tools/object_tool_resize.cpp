@@ -1,6 +1,7 @@
 // The resize drag: start, steps, finish, cancel.
 #include "ops/drawing.h"
 #include "ops/refresh.h"
+#include "text/text_attributes.h"
 #include "tools/object_tool.h"
 #include "tools/resize_geometry.h"
 #include "undo/recorder.h"
@@ -103,20 +104,18 @@ void CObjectTool::ApplyResize(CImgNode* pNode) {
     Corners corners = CornersAt(canvas, pNode, m_ptCurrent);
     CRect rcClient;
     ::GetBoundRect(corners.data(), static_cast<int>(corners.size()), &rcClient);
-    ResizeTo(pNode, CRect(canvas.ToDocument(rcClient.TopLeft()), canvas.ToDocument(rcClient).Size()));
+    const CRect rcDoc(canvas.ToDocument(rcClient.TopLeft()), canvas.ToDocument(rcClient).Size());
+    if (CTextNode* pText = AsText(pNode)) {
+        ResizeTextTo(*pText, rcDoc);
+    } else {
+        m_fnResizeObject(pNode, rcDoc);
+    }
 
     refresh.Add(AreaOf(nodes));
     refresh.FlushMarkRepaint(canvas.View(), *this);
     OnNodeResized(pNode);
     SyncAttributePanels();
     NotifyChangedThenRedrawn(*this);
-}
-
-// A text object's size is its font's: only a rebuilt text can take the place of the old one.
-void CObjectTool::ResizeTo(CImgNode* pNode, const CRect& rcDoc) {
-    if (pNode->m_nType != node_type::Text) {
-        m_fnResizeObject(pNode, rcDoc);
-    }
 }
 
 // The cache holds the true picture already; the window only has to show it again.

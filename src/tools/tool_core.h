@@ -8,6 +8,8 @@
 #include "tools/tool_listener.h"
 
 class CObjectTool;
+class CRefresh;
+struct TextAttributes;
 
 class CToolCore : public CToolListener {
   public:
@@ -152,6 +154,17 @@ class CToolCore : public CToolListener {
     /// The area of a list of nodes with their shadows: mark rectangles for a single node, plain ones for
     /// several.
     CRect AreaOf(const CNodeRefList& nodes);
+    /// The same with stored settings, offsets and softness truncated.
+    int m_fnCreateShadow(CImgNode* pNode, const CShadowParam& param);
+
+    /// CreateTextNode with the attributes together, and with those of another text object.
+    CTextNode* m_fnCreateText(const CString& strText, const TextAttributes& attributes);
+    CTextNode* m_fnCreateTextLike(const CTextNode& node);
+    /// Rebuilds the text object at a font size in pixels, with its look, and puts the top-left of its bounds
+    /// with frame at the point (document units). 1, also when it has that size already; 0 for null, for
+    /// another object and when it cannot be rebuilt; then it stays as it is.
+    int m_fnRebuildTextAtSize(CImgNode* pNode, int nPixelSize, const CPoint* pptCorner);
+
     /// This tool as undo events know it.
     CObjectTool* AsObjectTool();
 
@@ -172,11 +185,15 @@ class CToolCore : public CToolListener {
 
     // Hit tests, in client pixels.
     CImgNode* NodeUnderPoint(CPoint point);
+    /// What a click there is meant for: a frame stands for its object, a shadow is nothing.
+    CImgNode* ClickedNode(CPoint point);
     bool IsOnExcludedNode(CPoint point);
     bool IsOnSelection(CPoint point);
     Corners CornersOfNode(CImgNode* pNode);
 
     // Marks.
+    /// Adds the node's mark area, its shadow's included.
+    void AddMarkArea(CImgNode* pNode, CRefresh& refresh);
     void DrawMarkIntoCache(CCanvas& canvas, CRect rcMark, CImgNode* pNode, bool bOnly);
     int InvalidateStrips(const CRect& rc, int nWidth);
     /// Shows a system cursor now and makes it the view's class cursor, so that it stays while the pointer is
@@ -205,6 +222,12 @@ class CToolCore : public CToolListener {
                                    CPoint& ptShadow);
     static CImgNode* MakeShadowNode(CCanvas& canvas, CImgNode& object, const CTxParam& block, HBUF32 hSoft,
                                     COLORREF crColor);
+
+    int ResizeText(CTextNode& node, const CRect& rcTarget);
+    bool RemoveEffect(CTextNode& node, CRefresh& refresh);
+    CTextNode* TextInLookOf(const CTextNode& target, const CTextNode& source);
+    void TakeTextLook(CTextNode& target, CTextNode& rebuilt, const CTextNode& source);
+    void ShowReplaced(const CRect& rcArea, int nRedraw);
 
     void FinishStacking(CCanvas& canvas);
     void AlignEdge(int nRule);

@@ -41,6 +41,8 @@ class [[nodiscard]] CDiscardUndoScope {
 
 } // namespace
 
+CImgNode* CToolCore::ClickedNode(CPoint point) { return ClickedObject(NodeUnderPoint(point)); }
+
 int CToolCore::OnLButtonDblClk(UINT nFlags, CPoint point) { return OnLButtonDown(nFlags, point); }
 
 int CToolCore::OnLButtonDown(UINT nFlags, CPoint point) {

@@ -3,6 +3,7 @@
 
 #include "ops/arrange_scope.h"
 #include "ops/saturate.h"
+#include "text/text_attributes.h"
 #include "tools/tool_core.h"
 
 namespace {
@@ -37,7 +38,7 @@ class CBoxMap {
     double m_dY;
 };
 
-CSize SizeOf(const CRect& rc) {
+CSize ExtentOf(const CRect& rc) {
     return CSize(Saturated(static_cast<long long>(rc.right) - rc.left),
                  Saturated(static_cast<long long>(rc.bottom) - rc.top));
 }
@@ -47,7 +48,7 @@ CRect FittedIn(const CRect& rc, const CImgNode& node) {
     if (node.m_nKeepProportions != 1 || node.m_nPictureWidth <= 0 || node.m_nPictureHeight <= 0) {
         return rc;
     }
-    const CSize room = SizeOf(rc);
+    const CSize room = ExtentOf(rc);
     const double dFactorX = static_cast<double>(room.cx) / node.m_nPictureWidth;
     const double dFactorY = static_cast<double>(room.cy) / node.m_nPictureHeight;
     const CSize size = dFactorX >= dFactorY ? CSize(Truncated(node.m_nPictureWidth * dFactorY), room.cy)
@@ -75,8 +76,11 @@ int CToolCore::m_fnResizeObject(CImgNode* pNode, const CRect& rcTarget) {
     if (!pNode) {
         return 1;
     }
-    if (pNode->IsShadowNode() || pNode->IsFrameNode() || pNode->m_nType == node_type::Text) {
+    if (pNode->IsShadowNode() || pNode->IsFrameNode()) {
         return 0;
+    }
+    if (CTextNode* pText = AsText(pNode)) {
+        return ResizeText(*pText, rcTarget);
     }
     const bool bShadowed = pNode->m_pShadowNode != nullptr;
     if (pNode->m_pFrameNode) {
@@ -102,7 +106,7 @@ void CToolCore::MatchSizes(bool bWidth, bool bHeight) {
     m_fnCopySelection(canvas, nodes);
     CSize greatest(0, 0);
     for (POSITION position = nodes.GetHeadPosition(); position;) {
-        const CSize size = SizeOf(nodes.GetNext(position)->m_fnGetBoundRectWithFrame());
+        const CSize size = ExtentOf(nodes.GetNext(position)->m_fnGetBoundRectWithFrame());
         greatest = CSize(std::max(greatest.cx, size.cx), std::max(greatest.cy, size.cy));
     }
     for (POSITION position = nodes.GetHeadPosition(); position;) {

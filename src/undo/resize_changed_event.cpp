@@ -74,7 +74,12 @@ BOOL CResizeChangedUndoEvent::Undo() {
 void CResizeChangedUndoEvent::RestoreSizes() {
     for (POSITION position = m_saved.GetHeadPosition(); position;) {
         const NodeSizeRecord& record = m_saved.GetNext(position);
-        m_pOwnerTool->m_fnResizeObject(record.node, record.bounds);
+        if (record.node->m_nType == node_type::Text) {
+            const CPoint ptCorner = record.bounds.TopLeft();
+            m_pOwnerTool->m_fnRebuildTextAtSize(record.node, record.textSize, &ptCorner);
+        } else {
+            m_pOwnerTool->m_fnResizeObject(record.node, record.bounds);
+        }
         m_pOwnerTool->OnNodeResized(record.node);
     }
 }

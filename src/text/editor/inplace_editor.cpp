@@ -1,6 +1,6 @@
 #include "text/editor/inplace_editor.h"
 
-#include "host/services.h"
+#include "text/default_font.h"
 
 namespace {
 
@@ -13,14 +13,6 @@ constexpr UINT BlinkPeriod = 500; // Milliseconds.
 constexpr DWORD RichEditStyle = WS_CHILD | WS_VSCROLL | WS_HSCROLL | ES_SAVESEL | ES_WANTRETURN |
                                 ES_OEMCONVERT | ES_NOHIDESEL | ES_AUTOHSCROLL | ES_AUTOVSCROLL | ES_MULTILINE;
 static_assert(RichEditStyle == 0x403095C4);
-
-// Larger than any face name.
-constexpr int FaceNameSize = 256;
-
-CString DefaultFontName() {
-    char szName[FaceNameSize] = "";
-    return gfnGetDefaultFontNameFromQuorProd(szName, FaceNameSize) != 0 ? CString(szName) : CString("Arial");
-}
 
 } // namespace
 
