@@ -44,9 +44,14 @@ bool ReadRuns(const textCreate::textCreateParam& param, std::vector<RichTextRun>
     if (!ReadRichText(param.richText.Get(), runs) ||
         std::all_of(runs.begin(), runs.end(), [](const RichTextRun& run) { return run.text.empty(); }))
         return false;
-    // A record's sizes went through twips and may have lost a pixel on the way.
-    for (RichTextRun& run : runs)
+    for (RichTextRun& run : runs) {
+        // A record's sizes went through twips and may have lost a pixel on the way.
         run.nHeight = std::abs(param.nPixelSize - run.nHeight) == 1 ? param.nPixelSize : run.nHeight;
+        // The style of the whole text stands beside the record, not in it.
+        run.bBold = run.bBold || param.nBold != 0;
+        run.bItalic = run.bItalic || param.nItalic != 0;
+        run.bUnderline = run.bUnderline || param.nUnderline != 0;
+    }
     return true;
 }
 

@@ -171,6 +171,23 @@ TEST(TextEngine, APixelLostInTwipsComesBack) {
     EXPECT_EQ(BytesOf(whole.m_hMask), BytesOf(lost.m_hMask));
 }
 
+TEST(TextEngine, TheParametersStyleHoldsForEveryRun) {
+    QXRICHEDITINFO* const pStyled = Record({"abc"}, 16);
+    RichTextRuns(pStyled)[0].dwEffects = rich_text_effect::Bold | rich_text_effect::Underline;
+    textCreate::textCreateParam param = ParamOf(Record({"abc"}, 16));
+    textObject plain;
+    textObject styled;
+    textObject asRun;
+
+    ASSERT_EQ(1, textCreate::Apply(param, plain));
+    param.nBold = param.nUnderline = 1;
+    ASSERT_EQ(1, textCreate::Apply(param, styled));
+    ASSERT_EQ(1, textCreate::Apply(ParamOf(pStyled), asRun));
+
+    EXPECT_EQ(BytesOf(asRun.m_hMask), BytesOf(styled.m_hMask));
+    EXPECT_NE(BytesOf(plain.m_hMask), BytesOf(styled.m_hMask));
+}
+
 TEST(TextEngine, TheObjectKeepsWhatItWasMadeFrom) {
     textCreate::textCreateParam param = ParamOf(Record({"a"}, 16), text_align_code::Right);
     param.strText = "a\n\r\n\rb";
