@@ -21,26 +21,26 @@ using RichTextBlock = std::uint32_t;
 
 /// A stretch of text in one format. Sizes are pixels at the display's resolution.
 struct QXRICHEDITRUN {
-    std::int32_t nHeight;         ///< character height
-    std::int32_t nAscent;         ///< of the run's font; so the descent
+    std::int32_t nHeight; ///< character height
+    std::int32_t nAscent; ///< of the run's font; so the descent
     std::int32_t nDescent;
-    std::int32_t nBaseline;       ///< minus the baseline offset
+    std::int32_t nBaseline; ///< minus the baseline offset
     std::uint8_t nCharSet;
-    std::uint8_t padding[3];      ///< 0
-    std::uint32_t dwEffects;      ///< rich_text_effect bits
-    std::uint32_t nKerning;       ///< kerning threshold; readers accept 0
-    std::int32_t nSpacing;        ///< extra space between characters; readers accept 0
-    char szFace[32];              ///< zero-terminated
-    RichTextBlock hText;          ///< the run's text, zero-terminated, lines parted by CR LF
-    std::uint32_t reserved[2];    ///< 0
+    std::uint8_t padding[3];   ///< 0
+    std::uint32_t dwEffects;   ///< rich_text_effect bits
+    std::uint32_t nKerning;    ///< kerning threshold; readers accept 0
+    std::int32_t nSpacing;     ///< extra space between characters; readers accept 0
+    char szFace[32];           ///< zero-terminated
+    RichTextBlock hText;       ///< the run's text, zero-terminated, lines parted by CR LF
+    std::uint32_t reserved[2]; ///< 0
 };
 static_assert(sizeof(QXRICHEDITRUN) == 76);
 static_assert(offsetof(QXRICHEDITRUN, nCharSet) == 16 && offsetof(QXRICHEDITRUN, dwEffects) == 20);
 static_assert(offsetof(QXRICHEDITRUN, szFace) == 32 && offsetof(QXRICHEDITRUN, hText) == 64);
 
-/// The head of a record. The runs stand directly behind it, and 80 bytes of 0 behind them: 76 n + 128 bytes in
-/// one fixed GlobalAlloc block. Layout and flag values are 0 in what the editor exports, and readers accept
-/// that.
+/// The head of a record. The runs stand directly behind it, and 80 bytes of 0 behind them: 76 n + 128 bytes
+/// in one fixed GlobalAlloc block. Layout and flag values are 0 in what the editor exports, and readers
+/// accept that.
 struct QXRICHEDITINFO {
     std::uint32_t cbHeader; ///< 128
     std::uint32_t nRuns;

@@ -159,7 +159,7 @@ struct ITextAttributeTarget {
 /// Of the tools that can edit a text object on the page.
 struct ITextEditEntry {
     static constexpr GUID Id = {0xB5435B5F, 0xED79, 0x410D, {0x85, 0x99, 0xC4, 0xF0, 0x33, 0xEB, 0xC1, 0x83}};
-    /// Opens the object in the editor with the caret at the point. 1, or 0 when it is none to edit or no editor
-    /// can be made.
+    /// Opens the object in the editor with the caret at the point. 1, or 0 when it is none to edit or no
+    /// editor can be made.
     virtual int EditTextNode(CImgNode* pNode, const CPoint* pPoint) = 0;
 };

@@ -3,6 +3,6 @@
 
 #include <afxwin.h>
 
-/// Whether byte `nIndex` of the line begins a two-byte character, counted from the line's first byte on. A lead
-/// byte at the line's end counts; false outside the line.
+/// Whether byte `nIndex` of the line begins a two-byte character, counted from the line's first byte on. A
+/// lead byte at the line's end counts; false outside the line.
 bool IsLeadAt(const CString& strLine, int nIndex);

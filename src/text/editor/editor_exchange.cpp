@@ -79,16 +79,19 @@ void CInplaceEditor::CopySelection() {
     }
 }
 
-// The delivered text redraws the window, so taking the selection away does not.
+// The delivered text redraws the window, so taking the selection away does it only when none came.
 void CInplaceEditor::PasteAtCaret() {
     const bool bShown = HideShownCaret();
-    if (m_nSelectionExists != 0) {
+    const bool bReplaces = m_nSelectionExists != 0;
+    if (bReplaces) {
         CString strNothing;
         m_fnReplaceSelectRange(strNothing, 0);
     }
     CPoint point(m_rcCurrent.left + ExtentAt(m_nCaret), m_rcCurrent.top + m_rcCurrent.Height() / 2);
-    if (m_fnIsPasteFromClipboardEnabled(point)) {
-        m_fnPasteClipboardData(point);
+    const bool bPasted = m_fnIsPasteFromClipboardEnabled(point) && m_fnPasteClipboardData(point);
+    if (bReplaces && !bPasted) {
+        RedrawAfterChange(1);
+        m_fnUpdateCurrentLineInfo();
     }
     if (bShown) {
         m_fnShowCursor(1);

@@ -6,7 +6,8 @@
 
 namespace {
 
-// The first line takes every point above its bottom, that row included; the last one takes what no other does.
+// The first line takes every point above its bottom, that row included; the last one takes what no other
+// does.
 int LineAt(const CTextLayout& layout, const CRect& rcArea, int nCount, LONG y) {
     const long long nHeight = layout.LineHeight();
     const long long nDown = 0LL + y - rcArea.top;

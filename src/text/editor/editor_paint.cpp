@@ -44,8 +44,8 @@ void CInplaceEditor::PaintLines(CDC& dc) {
 
 void CInplaceEditor::PaintLine(CDC& dc, const CTextLayout& layout, const CRect& rcLine, int nLine,
                                const CString& strLine) {
-    const bool bSelected = m_nSelectionExists != 0 && nLine >= m_selection.start.nLine &&
-                           nLine <= m_selection.end.nLine;
+    const bool bSelected =
+        m_nSelectionExists != 0 && nLine >= m_selection.start.nLine && nLine <= m_selection.end.nLine;
     if (bSelected && (nLine == m_selection.start.nLine || nLine == m_selection.end.nLine)) {
         PaintSelectedLine(dc, layout, rcLine, strLine, SpanOnLine(m_selection, nLine, strLine.GetLength()));
         return;

@@ -110,8 +110,8 @@ void CInplaceEditor::m_fnCalculateLineIntersection(int nLine, const LineSpan& be
 
 void CInplaceEditor::InvalidateChange(const CTextLayout& layout, const CRect& rcLine, const CString& strLine,
                                       const LineSpan& before, const LineSpan& after) {
-    const bool bApart = before.IsEmpty() || after.IsEmpty() || before.nTo <= after.nFrom ||
-                        after.nTo <= before.nFrom;
+    const bool bApart =
+        before.IsEmpty() || after.IsEmpty() || before.nTo <= after.nFrom || after.nTo <= before.nFrom;
     if (bApart) {
         InvalidateSpan(layout, rcLine, strLine, before);
         InvalidateSpan(layout, rcLine, strLine, after);
@@ -119,7 +119,8 @@ void CInplaceEditor::InvalidateChange(const CTextLayout& layout, const CRect& rc
     }
     InvalidateSpan(layout, rcLine, strLine,
                    {std::min(before.nFrom, after.nFrom), std::max(before.nFrom, after.nFrom)});
-    InvalidateSpan(layout, rcLine, strLine, {std::min(before.nTo, after.nTo), std::max(before.nTo, after.nTo)});
+    InvalidateSpan(layout, rcLine, strLine,
+                   {std::min(before.nTo, after.nTo), std::max(before.nTo, after.nTo)});
 }
 
 void CInplaceEditor::InvalidateSpan(const CTextLayout& layout, const CRect& rcLine, const CString& strLine,

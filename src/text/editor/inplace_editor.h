@@ -24,11 +24,11 @@ class IInplaceEditorNotify {
     ~IInplaceEditorNotify() = default;
 };
 
-/// Edits a text of ANSI bytes in one font, colour, style and alignment, a stack of lines. The window always has
-/// the size of the text; it stands at the anchor: the first line's vertical middle and, by alignment, the left
-/// end, the middle or the right end of the widest line. Made with `new`; the owner deletes it, which may happen
-/// in the notification of the end of input. Measurements give empty results while no device context can be
-/// had.
+/// Edits a text of ANSI bytes in one font, colour, style and alignment, a stack of lines. The window always
+/// has the size of the text; it stands at the anchor: the first line's vertical middle and, by alignment, the
+/// left end, the middle or the right end of the widest line. Made with `new`; the owner deletes it, which may
+/// happen in the notification of the end of input. Measurements give empty results while no device context
+/// can be had.
 class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public CDragDropSource {
   public:
     CInplaceEditor();
@@ -81,8 +81,8 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     static int m_fnPix2Twip(int nPixels);
     static int m_fnTwip2Pix(int nTwips);
 
-    /// Selects the bytes behind the first place up to and with the second; both are brought into the text, and
-    /// swapped when out of order. (0, -1, 0, -1) clears the selection.
+    /// Selects the bytes behind the first place up to and with the second; both are brought into the text,
+    /// and swapped when out of order. (0, -1, 0, -1) clears the selection.
     void m_fnSetSelectRange(int nStartLine, int nStartIndex, int nEndLine, int nEndIndex);
     /// Puts the text, parted at each LF, in the selection's place; without a selection at the caret, which
     /// stays before it. 1 as `nRedraw` resizes and repaints the window.

@@ -17,8 +17,8 @@ class CLineStore {
     /// The line's length in bytes; 0 outside the store.
     int LengthOf(int nLine) const;
 
-    /// Inserts the pieces of the text, parted at each LF, behind the line: -1 is before all, the count or more
-    /// behind all. 1, or 0 when memory runs out; part of the text may then be inserted.
+    /// Inserts the pieces of the text, parted at each LF, behind the line: -1 is before all, the count or
+    /// more behind all. 1, or 0 when memory runs out; part of the text may then be inserted.
     int InsertText(int nAfter, const CString& strText);
     /// Puts the pieces of the text in the line's place. 0 outside the store, else as InsertText.
     int ReplaceLine(int nLine, const CString& strText);

@@ -8,10 +8,10 @@
 
 /// What a layout measures with. Nothing is owned.
 struct TextFormat {
-    HWND hWnd;       ///< whose device context measures
-    HFONT hFont;     ///< null: the context's own
+    HWND hWnd;   ///< whose device context measures
+    HFONT hFont; ///< null: the context's own
     COLORREF crText;
-    int nAlign;      ///< a text_align index; other values stand left
+    int nAlign; ///< a text_align index; other values stand left
 };
 
 /// Selects font, colour, transparent background and the text-align mode into a context.
@@ -38,16 +38,16 @@ class CTextLayout {
     CSize LineSize(const CString& strLine) const;
     /// The widest line by the sum of the heights. Measures every line.
     CSize TextSize() const;
-    /// The text's rectangle around an anchor, in the anchor's coordinates, with its margins; without lines one
-    /// line high, 0 wide and without margins.
+    /// The text's rectangle around an anchor, in the anchor's coordinates, with its margins; without lines
+    /// one line high, 0 wide and without margins.
     CRect BoundAt(const CPoint& ptAnchor) const;
     /// The lines without the margins. Measures every line unless they stand left, where only the corner and
     /// the height are told.
     CRect Area() const;
     /// The rectangle of the line numbered `nLine` within the area.
     CRect LineRect(const CRect& rcArea, int nLine, const CString& strLine) const;
-    /// The pixels of a span of the line at `rcLine`, with half a blank's width at an end at which the span goes
-    /// on to another line.
+    /// The pixels of a span of the line at `rcLine`, with half a blank's width at an end at which the span
+    /// goes on to another line.
     CRect SpanRect(const CRect& rcLine, const CString& strLine, const LineSpan& span) const;
     /// The extent of the bytes up to and with each one. False, nothing written, when the line is empty or
     /// cannot be measured. `pOffsets` has room for the line's bytes; `*pnCount` receives how many fit.
