@@ -96,32 +96,37 @@ class CDragWnd : public CWnd, public CDragDropTarget, public CDragDropSource {
     std::string m_name;
 };
 
-class Dragging : public testing::Test {
-  protected:
-    Dragging()
-        : pTop(std::make_unique<CDragWnd>(log, "top", nullptr, CRect(100, 50, 500, 250))),
-          pFrom(std::make_unique<CDragWnd>(log, "from", pTop.get(), CRect(10, 20, 110, 120))),
-          pTo(std::make_unique<CDragWnd>(log, "to", pTop.get(), CRect(200, 20, 300, 120))) {
+/// Two windows side by side in a third: the left one drags, both take drops.
+struct Windows {
+    Windows() {
         pFrom->Drags().TakesDrops();
         pTo->TakesDrops();
     }
-    ~Dragging() override { platform::ResetInput(); }
-
+    void DeleteAll() {
+        pFrom.reset();
+        pTo.reset();
+        pTop.reset();
+    }
     // All in client pixels of `from`, where the pointer is captured.
-    void Send(UINT nMessage, CPoint point, WPARAM keys) {
+    void Send(UINT nMessage, CPoint point, WPARAM keys) const {
         ::SendMessageA(hFrom, nMessage, keys,
                        MAKELPARAM(static_cast<ULONG_PTR>(point.x), static_cast<ULONG_PTR>(point.y)));
     }
-    void Press(CPoint point) { Send(WM_LBUTTONDOWN, point, MK_LBUTTON); }
-    void Move(CPoint point) { Send(WM_MOUSEMOVE, point, MK_LBUTTON); }
-    void Release(CPoint point) { Send(WM_LBUTTONUP, point, 0); }
+    void Press(CPoint point) const { Send(WM_LBUTTONDOWN, point, MK_LBUTTON); }
+    void Move(CPoint point) const { Send(WM_MOUSEMOVE, point, MK_LBUTTON); }
+    void Release(CPoint point) const { Send(WM_LBUTTONUP, point, 0); }
     std::string TakeLog() { return std::exchange(log, ""); }
 
     std::string log;
-    std::unique_ptr<CDragWnd> pTop;
-    std::unique_ptr<CDragWnd> pFrom;
-    std::unique_ptr<CDragWnd> pTo;
+    std::unique_ptr<CDragWnd> pTop{new CDragWnd(log, "top", nullptr, CRect(100, 50, 500, 250))};
+    std::unique_ptr<CDragWnd> pFrom{new CDragWnd(log, "from", pTop.get(), CRect(10, 20, 110, 120))};
+    std::unique_ptr<CDragWnd> pTo{new CDragWnd(log, "to", pTop.get(), CRect(200, 20, 300, 120))};
     const HWND hFrom = pFrom->m_hWnd;
+};
+
+class Dragging : public testing::Test, protected Windows {
+  protected:
+    ~Dragging() override { platform::ResetInput(); }
 };
 
 } // namespace
@@ -244,41 +249,30 @@ TEST_F(Dragging, AnEffectThatIsNotAllowedDeliversNothing) {
 
 TEST(DragCallbacks, EverythingMayBeDeletedInsideEveryCallback) {
     struct Row {
-        const char* pszWindow;
+        std::unique_ptr<CDragWnd> Windows::*pWindow;
         const char* pszCallback;
+        CPoint to; ///< where the pointer goes before the release
     };
-    for (const Row& row : {Row{"from", "prepare"},
-                           {"from", "data"},
-                           {"from", "over"},
-                           {"from", "leave"},
-                           {"to", "over"},
-                           {"to", "ask"},
-                           {"to", "text"},
-                           {"from", "down"}}) {
-        std::string other;
-        auto top = std::make_unique<CDragWnd>(other, "top", nullptr, CRect(100, 50, 500, 250));
-        auto from = std::make_unique<CDragWnd>(other, "from", top.get(), CRect(10, 20, 110, 120));
-        auto to = std::make_unique<CDragWnd>(other, "to", top.get(), CRect(200, 20, 300, 120));
-        from->Drags().TakesDrops();
-        to->TakesDrops();
-        const HWND hWnd = from->m_hWnd;
-        CDragWnd& hooked = row.pszWindow == std::string("from") ? *from : *to;
-        hooked.hooks[row.pszCallback] = [&] {
-            from.reset();
-            to.reset();
-            top.reset();
-        };
-        const bool bClick = row.pszCallback == std::string("down");
+    const auto pFrom = &Windows::pFrom;
+    const auto pTo = &Windows::pTo;
+    for (const Row& row : {Row{pFrom, "prepare", {200, 10}},
+                           {pFrom, "data", {200, 10}},
+                           {pFrom, "over", {20, 10}},
+                           {pFrom, "leave", {200, 10}},
+                           {pTo, "over", {200, 10}},
+                           {pTo, "ask", {200, 10}},
+                           {pTo, "text", {200, 10}},
+                           {pFrom, "down", {11, 10}}}) {
+        Windows windows;
+        (windows.*row.pWindow)->hooks[row.pszCallback] = [&windows] { windows.DeleteAll(); };
 
-        ::SendMessageA(hWnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 10));
-        if (!bClick) {
-            ::SendMessageA(hWnd, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(20, 10));
-            ::SendMessageA(hWnd, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(200, 10));
-        }
-        ::SendMessageA(hWnd, WM_LBUTTONUP, 0, MAKELPARAM(200, 10));
+        windows.Press({10, 10});
+        windows.Move({10 + (row.to.x - 10) / 16, 10});
+        windows.Move(row.to);
+        windows.Release(row.to);
 
-        EXPECT_EQ(nullptr, from) << row.pszWindow << " " << row.pszCallback;
-        EXPECT_EQ(nullptr, ::GetCapture()) << row.pszWindow << " " << row.pszCallback;
+        EXPECT_EQ(nullptr, windows.pFrom) << row.pszCallback;
+        EXPECT_EQ(nullptr, ::GetCapture()) << row.pszCallback;
     }
 }
 

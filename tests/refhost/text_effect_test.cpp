@@ -1,4 +1,4 @@
-#include <memory>
+#include <array>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -57,33 +57,29 @@ class Effects : public testing::Test {
 
 } // namespace
 
-TEST_F(Effects, AnOutlineIsARingInItsColour) {
-    CTextNode* const pNode = With(Dot(), TextEffect::Outline);
+TEST_F(Effects, AnEdgeOfThePictureBelongsToTheEffectAndTheTextStandsInIt) {
+    struct Row {
+        TextEffect effect;
+        std::uint8_t nCover;
+        std::vector<std::uint8_t> mask;
+        std::array<std::uint32_t, 3> diagonal; ///< colours from the top left to the bottom right
+    };
+    // Half of red over half of blue: 128 + 128 * 127 / 255 is 191.7 of coverage, 170.2 / 255 of it the
+    // text's. An emboss is lit by a colour halfway from the text's to white.
+    for (const Row& row :
+         {Row{TextEffect::Outline, 255, std::vector<std::uint8_t>(9, 255), {0x0000FF, 0xFF0000, 0x0000FF}},
+          Row{TextEffect::Outline,
+              128,
+              {128, 128, 128, 128, 192, 128, 128, 128, 128},
+              {0x0000FF, 0xAA0055, 0x0000FF}},
+          Row{TextEffect::Emboss, 255, {255, 0, 0, 0, 255, 0, 0, 0, 255}, {0xFF7F7F, 0xFF0000, 0x0000FF}}}) {
+        CTextNode* const pNode = With(Dot(row.nCover), row.effect);
 
-    EXPECT_EQ(std::vector<std::uint8_t>(9, 255), BytesOf(pNode->m_tx.hMask));
-    EXPECT_EQ(0xFF0000U, PixelAt(*pNode, 1, 1));
-    EXPECT_EQ(0x0000FFU, PixelAt(*pNode, 0, 1));
-    EXPECT_TRUE(RectOf(pNode) == CRect(9, 19, 12, 22));
-    EXPECT_EQ(1, pNode->m_fnIsTextEffectApplied());
-}
-
-TEST_F(Effects, AHalfCoveredPixelIsMixedWithWhatLiesBelow) {
-    CTextNode* const pNode = With(Dot(128), TextEffect::Outline);
-
-    // 128 over 128: 128 + 128 * 127 / 255 is 191.7 of coverage, 170.2 / 255 of it the text's.
-    EXPECT_EQ((std::vector<std::uint8_t>{128, 128, 128, 128, 192, 128, 128, 128, 128}),
-              BytesOf(pNode->m_tx.hMask));
-    EXPECT_EQ(0xAA0055U, PixelAt(*pNode, 1, 1));
-}
-
-TEST_F(Effects, AnEmbossIsLightAboveAndColouredBelow) {
-    CTextNode* const pNode = With(Dot(), TextEffect::Emboss);
-
-    EXPECT_EQ((std::vector<std::uint8_t>{255, 0, 0, 0, 255, 0, 0, 0, 255}), BytesOf(pNode->m_tx.hMask));
-    // Halfway from red to white.
-    EXPECT_EQ(0xFF7F7FU, PixelAt(*pNode, 0, 0));
-    EXPECT_EQ(0xFF0000U, PixelAt(*pNode, 1, 1));
-    EXPECT_EQ(0x0000FFU, PixelAt(*pNode, 2, 2));
+        EXPECT_EQ(row.mask, BytesOf(pNode->m_tx.hMask));
+        for (int n = 0; n < 3; ++n)
+            EXPECT_EQ(row.diagonal[static_cast<std::size_t>(n)], PixelAt(*pNode, n, n));
+        EXPECT_TRUE(RectOf(pNode) == CRect(9, 19, 12, 22));
+    }
 }
 
 TEST_F(Effects, AGlowFadesEvenlyToAllSides) {
