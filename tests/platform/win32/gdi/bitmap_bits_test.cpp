@@ -1,4 +1,4 @@
-#include "stage.h"
+#include "../stage.h"
 
 TEST(BitmapBits, RowsArePaddedToTwoBytes) {
     const struct {

@@ -1,4 +1,4 @@
-#include "stage.h"
+#include "../stage.h"
 
 #include "platform/counts.h"
 #include "platform/faults.h"
