@@ -15,6 +15,7 @@
 #include "host/tool_category.h"
 #include "host/undo.h"
 #include "shadows/shadow_tool.h"
+#include "text/text_tool.h"
 #include "tools/basic_object_tool.h"
 #include "tools/display_tool.h"
 #include "undo/sel_changed_event.h"
@@ -272,6 +273,9 @@ TEST(SlotOrder, DerivedClassesAppendTheirMainOperations) {
     EXPECT_EQ(NumberOf(PlaceOf(&CFrameToolBase::GetPanelKind)), 52);
     EXPECT_EQ(NumberOf(PlaceOf(&CShadowTool::InvalidateShadowMark)), 52);
     EXPECT_EQ(NumberOf(PlaceOf(&CShadowTool::GetPanelKind)), 53);
+    // SelectOnly and the five attribute operations, which their interfaces repeat, stand before it.
+    const auto pEdit = static_cast<int (CTextTool::*)(CImgNode*, int, int)>(&CTextTool::EditTextNode);
+    EXPECT_EQ(NumberOf(PlaceOf(pEdit)), 53 + 6);
 }
 
 TEST(SlotOrder, UndoEventsStandBehindTheFiveOfTheirBase) {
@@ -318,4 +322,8 @@ TEST(SlotOrder, HostInterfacesKeepTheirSlots) {
     EXPECT_EQ(PlaceOf(&IChangeTracker::SetChanged), 2);
     EXPECT_EQ(PlaceOf(&IObjectClipboard::Paste), 3);
     EXPECT_EQ(PlaceOf(&IToolCategory::AddTool), 0);
+    EXPECT_EQ(PlaceOf(&ITextAttributeTarget::SetAlignment), 2);
+    EXPECT_EQ(PlaceOf(&ITextAttributeTarget::SetColor), 4);
+    EXPECT_EQ(PlaceOf(&ITextEditEntry::EditTextNode), 0);
+    EXPECT_EQ(PlaceOf(&IInplaceEditorNotify::OnInputEnded), 0);
 }
