@@ -5,6 +5,7 @@
 #include "code_page.h"
 #include "host/text_node.h"
 #include "image/node_host.h"
+#include "text/text_effect.h"
 
 namespace {
 
@@ -44,6 +45,20 @@ Json ShadowJson(const CImgNode& node) {
             {"color", ColorText(shadow.crColor)}};
 }
 
+const char* EffectName(TextEffect effect) {
+    switch (effect) {
+    case TextEffect::Outline: return "outline";
+    case TextEffect::Glow: return "glow";
+    case TextEffect::Emboss: return "emboss";
+    default: return nullptr;
+    }
+}
+
+Json EffectJson(const CTextNode& text) {
+    const char* pszName = EffectName(CTextEffectState::KindOf(text));
+    return pszName ? Json(pszName) : Json(nullptr);
+}
+
 Json TextJson(const CImgNode& node) {
     if (node.m_nType != node_type::Text) {
         return nullptr;
@@ -59,7 +74,7 @@ Json TextJson(const CImgNode& node) {
             {"italic", text.m_nItalic},
             {"underline", text.m_nUnderline},
             {"color", ColorText(text.m_crText)},
-            {"effect", nullptr}};
+            {"effect", EffectJson(text)}};
 }
 
 Json NodeJson(CStage& stage, CImgNode& node) {

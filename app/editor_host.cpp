@@ -46,15 +46,20 @@ int CEditorHost::Destroy() {
     return 1;
 }
 
-// A tool's editor loses its input with the focus, so while one is open it has the focus.
-CInplaceEditor* CEditorHost::Editor() const {
-    if (m_pEditor || !m_bBound || !m_desk.View()) {
-        return m_pEditor;
+// A tool's editor loses its input with the focus, so while one is open it has the focus: but for one whose
+// tool is no longer told.
+CInplaceEditor* CEditorHost::ToolEditor() const {
+    HWND hOwn = m_pEditor ? m_pEditor->m_hWnd : nullptr;
+    if (HWND hFocus = ::GetFocus(); hFocus != hOwn && IsEditor(hFocus)) {
+        m_hToolEditor = hFocus;
     }
-    HWND hFocus = ::GetFocus();
-    const bool bEditor =
-        hFocus && ::GetParent(hFocus) == m_desk.View()->m_hWnd && ::GetDlgCtrlID(hFocus) == EditorId;
-    return bEditor ? static_cast<CInplaceEditor*>(CWnd::FromHandlePermanent(hFocus)) : nullptr;
+    const bool bOpen = m_hToolEditor != hOwn && IsEditor(m_hToolEditor);
+    return bOpen ? static_cast<CInplaceEditor*>(CWnd::FromHandlePermanent(m_hToolEditor)) : nullptr;
+}
+
+bool CEditorHost::IsEditor(HWND hWnd) const {
+    return m_bBound && m_desk.View() && ::IsWindow(hWnd) && ::GetParent(hWnd) == m_desk.View()->m_hWnd &&
+           ::GetDlgCtrlID(hWnd) == EditorId;
 }
 
 void CEditorHost::OnInputEnded(CInplaceEditor* pEditor) {

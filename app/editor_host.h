@@ -28,8 +28,10 @@ class CEditorHost : private IInplaceEditorNotify {
     /// Ends the host's editor unasked, without notification; the view has the focus then. 1, or 0 when there
     /// is none.
     int Destroy();
-    /// The host's editor, else the one with the focus; null for none.
-    CInplaceEditor* Editor() const;
+    /// The host's editor, else a tool's; null for none.
+    CInplaceEditor* Editor() const { return m_pEditor ? m_pEditor : ToolEditor(); }
+    /// The editor that a tool has open on the view, or null.
+    CInplaceEditor* ToolEditor() const;
     /// Makes the host the editor's notify target, or nobody.
     void Listen(CInplaceEditor& editor, bool bListen) {
         editor.m_fnRegisterNotifyObject(bListen ? this : nullptr);
@@ -42,11 +44,14 @@ class CEditorHost : private IInplaceEditorNotify {
   private:
     void OnInputEnded(CInplaceEditor* pEditor) override;
     void DeleteEditor();
+    /// Whether the window is an editor on the view; it may be gone.
+    bool IsEditor(HWND hWnd) const;
 
     CDesk& m_desk;
     EditorCalls m_calls;
     bool m_bBound = false;
-    CInplaceEditor* m_pEditor = nullptr; ///< owned
+    CInplaceEditor* m_pEditor = nullptr;  ///< owned
+    mutable HWND m_hToolEditor = nullptr; ///< the tool's editor that had the focus last; may be gone
     int m_nEndedInputs = 0;
     std::string m_endedText;
 };

@@ -107,7 +107,11 @@ void CNames::NameNewNode(const CImgNode* pNode) {
         m_rootById[pNode->m_nId] = root;
         Give(FreeName(root), pNode);
     } else if (pNode->m_nType == node_type::Text) {
-        Give("text#" + std::to_string(++m_nTexts), pNode);
+        std::string name;
+        do {
+            name = "text#" + std::to_string(++m_nTexts);
+        } while (m_idByName.count(name));
+        Give(name, pNode);
     } else {
         Give("node#" + std::to_string(pNode->m_nId), pNode);
     }

@@ -100,6 +100,7 @@ CStage::CStage() : m_names(m_desk), m_pEditorHost(std::make_unique<CEditorHost>(
 }
 
 CStage::~CStage() {
+    LeaveEditors();
     ResetSurroundings();
     m_pEditorHost.reset();
     m_desk.Close();
@@ -130,6 +131,7 @@ int CStage::DetachModule() {
         return 0;
     }
     trace::CQuietScope quiet;
+    LeaveEditors();
     m_pEditorHost->OnModuleGoes();
     m_desk.SwitchTool(nullptr, 0);
     GetUndoMgr()->Clear();
@@ -140,8 +142,7 @@ int CStage::DetachModule() {
 }
 
 bool CStage::NewPage(int nWidth, int nHeight, double dZoom) {
-    DestroyEditor();
-    EndEditor(); // A tool's own goes by its own road, while its page still stands.
+    LeaveEditors(); // While the page still stands.
     m_names.Clear();
     return m_desk.NewPage(nWidth, nHeight, dZoom);
 }
@@ -232,7 +233,8 @@ CImgNode* CStage::PlaceNode(const std::string& name, CImgNode* pNode) {
 }
 
 bool CStage::FreeNode(CImgNode* pNode) {
-    if (CNodeBookkeeping::IsOnPage(*pNode)) {
+    const bool bText = pNode->m_nType == node_type::Text || pNode->m_pOwner;
+    if (CNodeBookkeeping::IsOnPage(*pNode) || (bText && m_pEditorHost->ToolEditor())) {
         return false;
     }
     if (m_desk.ExcludedNode() == pNode) {

@@ -12,6 +12,7 @@
 #include "host/undo.h"
 #include "names.h"
 #include "platform/clock.h"
+#include "text/text_effect.h"
 #include "trace/trace.h"
 
 /// Whether Ctrl is held, in both key states, while a command's messages are dispatched.
@@ -21,6 +22,7 @@ enum class KeyStates { Both, Async, Sync };
 enum class Show { Now, Later };
 
 class CEditorHost;
+class CTextNode;
 class CInplaceEditor;
 struct EditorCalls;
 
@@ -31,6 +33,17 @@ struct PictureOptions {
     int maskScale = 100; ///< percent
     bool hasOffset = false;
     CPoint offset; ///< document units, added to the position
+};
+
+/// How a text object looks.
+struct TextOptions {
+    std::string font = "Arial";
+    int pixels = 16;   ///< the characters' height at full scale
+    int alignment = 0; ///< 0 left, 1 centre, 2 right
+    int style = 0;     ///< 1 bold, 2 italic, 4 underline
+    COLORREF color = RGB(255, 255, 255);
+    TextEffect effect = TextEffect::None; ///< drawn in black
+    bool offPage = false;                 ///< made, but not put on the page
 };
 
 /// The outcome of loading the module: nothing is loaded when the file cannot be opened or refuses to attach.
@@ -90,8 +103,13 @@ class CStage {
                              int nHeight, const PictureOptions& options, std::string& error);
     /// An object in placeholder mode with the empty frame of its own size.
     CImgNode* AddPlaceholder(const std::string& name, int nX, int nY, int nWidth, int nHeight);
-    /// Deletes a node that is off the page; false for one that is on it. The recorded steps go first, because
-    /// they may point at it.
+    /// A text object made by the current tool, or by the first one received when none is current; its
+    /// top-left, with the effect, is at (nX, nY). Null when there is no tool or it makes none of this text.
+    CImgNode* AddText(const std::string& name, const std::string& text, int nX, int nY,
+                      const TextOptions& options = {});
+    /// Deletes a node that is off the page; false for one that is on it, and for a text or a companion while
+    /// a tool's editor is open, which may put it back. The recorded steps go first, because they may point at
+    /// it.
     bool FreeNode(CImgNode* pNode);
     /// The node that the tools' hit tests skip; null for none.
     void Exclude(CImgNode* pNode);
@@ -167,6 +185,17 @@ class CStage {
     const std::string& EndedText() const;
     CEditorHost& EditorHost() { return *m_pEditorHost; }
 
+    /// The current tool's text attributes, which act on its open editor, else on the selected texts: what the
+    /// tool answered, 0 for a tool without them.
+    int SetTextFont(const std::string& name);
+    int SetTextSize(int nPoints);
+    int SetTextAlignment(int nIndex);
+    int SetTextStyle(int nBits);
+    int SetTextColor(COLORREF crText);
+    /// Opens a text object in the current tool's editor, the caret near the point: what the tool answered, 0
+    /// for a tool that edits no texts.
+    int EditText(const std::string& name, CPoint point);
+
     /// A text from outside moves over the window at the point; it leaves the window it was over before.
     DropAnswer Hover(const std::string& text, CPoint point, const DropOffer& offer = {});
     /// The same, and then it is let go there.
@@ -186,6 +215,10 @@ class CStage {
 
     /// Adds one more global receiver of kind 38 or 45.
     void BusAdd(int nKind, bool bSearches) { m_desk.AddReceiver(nKind, bSearches); }
+
+    /// Makes a node that a tool has handed out the document's, which frees what nobody else does. Nothing for
+    /// null.
+    void Adopt(CImgNode* pNode);
 
     CDesk& Desk() { return m_desk; }
     const CDesk& Desk() const { return m_desk; }
@@ -221,6 +254,9 @@ class CStage {
     };
 
     CImgNode* PlaceNode(const std::string& name, CImgNode* pNode);
+    CTextNode* MakeText(const std::string& text, const TextOptions& options);
+    /// Ends the host's editor, then a tool's own by its own road.
+    void LeaveEditors();
     HWND TargetOf(CPoint& point) const;
     HWND DropWindowAt(CPoint& point);
     DropAnswer OfferText(const std::string& text, CPoint point, const DropOffer& offer, int nPhase);

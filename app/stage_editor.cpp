@@ -28,6 +28,11 @@ void CStage::EndEditor() {
     }
 }
 
+void CStage::LeaveEditors() {
+    DestroyEditor();
+    EndEditor();
+}
+
 int CStage::DestroyEditor() { return m_pEditorHost->Destroy(); }
 
 void CStage::SelectText(int nLine1, int nIndex1, int nLine2, int nIndex2) {

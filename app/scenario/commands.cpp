@@ -2,8 +2,8 @@
 
 const CommandRow* FindCommand(const std::string& name) {
     for (const auto& table :
-         {HostCommands(), StageCommands(), PanelCommands(), InputCommands(), ToolCommands(), EditorCommands(),
-          ExchangeCommands(), LookCommands(), LaterCommands()}) {
+         {HostCommands(), StageCommands(), PanelCommands(), InputCommands(), ToolCommands(), TextCommands(),
+          EditorCommands(), ExchangeCommands(), LookCommands(), LaterCommands()}) {
         for (const CommandRow& row : table) {
             if (name == row.pszName) {
                 return &row;

@@ -4,11 +4,7 @@
 
 namespace {
 
-constexpr std::array<CommandRow, 9> Rows = {{
-    {"text",
-     "text NAME \"TEXT\" X Y [font \"F\"] [px N] [bold] [italic] [underline] [align 0|1|2] [color #RRGGBB] "
-     "[effect outline|glow|emboss] [off-page]",
-     nullptr},
+constexpr std::array<CommandRow, 6> Rows = {{
     {"component", "component FILE (NAME X Y W H #RRGGBB|none [mask ellipse])...", nullptr},
     {"display", "display B C T", nullptr},
     {"node-display", "node-display NAME|none B C T", nullptr},
@@ -18,8 +14,6 @@ constexpr std::array<CommandRow, 9> Rows = {{
      nullptr},
     {"shadow-mode", "shadow-mode N", nullptr},
     {"frame", "frame apply FILE | apply-to FILE NAME... | remove | query", nullptr},
-    {"attr", "attr font \"F\" | size PT | align N | style BITS | color #RRGGBB", nullptr},
-    {"edit", "edit NAME X Y", nullptr},
 }};
 
 } // namespace

@@ -128,7 +128,7 @@ void Free(CRunner& run, CArguments& args) {
     CImgNode* pNode = run.Node(args, "NAME");
     args.End();
     if (!run.Stage().FreeNode(pNode)) {
-        throw CScenarioError("the node is on the page");
+        throw CScenarioError("the node is on the page, or may come back to it when the open editor ends");
     }
 }
 

@@ -7,11 +7,13 @@
 #include "desk/tool_operations.h"
 #include "panel_kind.h"
 #include "scenario/error.h"
+#include "scenario/text_operations.h"
 
 namespace {
 
 using MainHandler = void (*)(CRunner&, CArguments&, CToolOperations&);
 using OpsHandler = void (*)(CRunner&, CArguments&, IToolObjectOps&);
+using text_operations::SayNothing;
 
 /// One operation by number and name; no handler for one whose subject does not exist yet.
 template <class Handler>
@@ -20,8 +22,6 @@ struct OperationRow {
     const char* pszName;
     Handler pfnRun;
 };
-
-void SayNothing(CRunner& run) { run.Say("none"); }
 
 void SayRect(CRunner& run, long long nResult, const RECT& rect) {
     run.Say(nResult, {{"rect", RectText(rect)}});
@@ -158,13 +158,13 @@ constexpr std::array<OperationRow<OpsHandler>, 38> Ops = {{
     {15, "GetNodesRect", GetNodesRect},
     {16, "GetNodeMarkArea", GetNodeMarkArea},
     {17, "ClassifySelection", Plain<&IToolObjectOps::ClassifySelection>},
-    {18, "CreateTextNode", nullptr},
-    {19, "RecolorTextNode", nullptr},
-    {20, "ReplaceTextNode", nullptr},
-    {21, "RebuildTextNodeInPlace", nullptr},
+    {18, "CreateTextNode", text_operations::CreateTextNode},
+    {19, "RecolorTextNode", text_operations::RecolorTextNode},
+    {20, "ReplaceTextNode", text_operations::ReplaceTextNode},
+    {21, "RebuildTextNodeInPlace", text_operations::RebuildTextNodeInPlace},
     {22, "SyncAttributePanels", Plain<&IToolObjectOps::SyncAttributePanels>},
     {23, "SetSharedValue", OneNumber<&IToolObjectOps::SetSharedValue>},
-    {24, "CopyNodeLook", nullptr},
+    {24, "CopyNodeLook", text_operations::CopyNodeLook},
     {25, "HookNode", OneNode<&IToolObjectOps::HookNode>},
     {26, "RecordSelectionUndo", Plain<&IToolObjectOps::RecordSelectionUndo>},
     {27, "RecordAttributeUndoForSelection", RecordAttributeUndoForSelection},
@@ -260,9 +260,9 @@ void GetPanelKind(CRunner& run, CArguments& args, CToolOperations& tool) {
     run.Say(AskPanelKind(tool));
 }
 
-constexpr std::array<OperationRow<MainHandler>, 46> Main = {{
+constexpr std::array<OperationRow<MainHandler>, 48> Main = {{
     {6, "GetToolRect", GetToolRect},
-    {7, "OnObjectHook", nullptr},
+    {7, "OnObjectHook", text_operations::OnObjectHook},
     {8, "host-reset", MainPlain<&CToolOperations::ResetHost>},
     {9, "OnSetCursor", OnSetCursor},
     {10, "IsCtrlDown", MainPlain<&CToolOperations::IsCtrlDown>},
@@ -289,8 +289,8 @@ constexpr std::array<OperationRow<MainHandler>, 46> Main = {{
     {31, "Empty31", MainCommand<&CToolOperations::Empty31>},
     {32, "m_fnRemoveFrame", nullptr},
     {33, "m_fnRemoveShadow", nullptr},
-    {34, "m_fnEditTextAt", nullptr},
-    {35, "m_fnRemoveTextEffect", nullptr},
+    {34, "m_fnEditTextAt", text_operations::EditTextAt},
+    {35, "m_fnRemoveTextEffect", text_operations::RemoveTextEffect},
     {36, "m_fnAlignLeft", MainCommand<&CToolOperations::m_fnAlignLeft>},
     {37, "m_fnAlignTop", MainCommand<&CToolOperations::m_fnAlignTop>},
     {38, "m_fnAlignRight", MainCommand<&CToolOperations::m_fnAlignRight>},
@@ -305,8 +305,10 @@ constexpr std::array<OperationRow<MainHandler>, 46> Main = {{
     {47, "m_fnSameSize", MainCommand<&CToolOperations::m_fnSameSize>},
     {48, "Reserved48", nullptr},
     {49, "Reserved49", nullptr},
-    {50, "OnNodeResized", nullptr},
+    {50, "OnNodeResized", text_operations::OnNodeResized},
+    {51, "ResizeTextNode", text_operations::ResizeTextNode},
     {52, "GetPanelKind", GetPanelKind},
+    {53, "EditTextNode", text_operations::EditTextNode},
 }};
 
 template <class Handler>
