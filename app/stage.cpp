@@ -136,6 +136,7 @@ int CStage::DetachModule() {
     m_desk.SwitchTool(nullptr, 0);
     GetUndoMgr()->Clear();
     m_desk.DropTools();
+    TakeTextsOver();
     ::FreeLibrary(m_hModule);
     m_hModule = nullptr;
     return 1;

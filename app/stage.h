@@ -254,6 +254,8 @@ class CStage {
     };
 
     CImgNode* PlaceNode(const std::string& name, CImgNode* pNode);
+    /// Makes the page's texts the host's own; one for which there is no memory goes.
+    void TakeTextsOver();
     CTextNode* MakeText(const std::string& text, const TextOptions& options);
     /// Ends the host's editor, then a tool's own by its own road.
     void LeaveEditors();

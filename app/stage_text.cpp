@@ -19,6 +19,12 @@ bool GiveEffect(CTextNode& node, TextEffect effect) {
     return node.m_fnRegenerateTextEffect() != 0;
 }
 
+void StandInFor(CImgNodeList& list, const CImgNode* pNode, CImgNode* pOther) {
+    if (POSITION position = list.Find(pNode)) {
+        list.InsertAfter(position, pOther);
+    }
+}
+
 /// One of the current tool's setters; 0 when it has no text attributes.
 template <class Value>
 int Set(const CStage& stage, int (ITextAttributeTarget::*pfnSet)(Value), std::type_identity_t<Value> value) {
@@ -31,6 +37,28 @@ int Set(const CStage& stage, int (ITextAttributeTarget::*pfnSet)(Value), std::ty
 void CStage::Adopt(CImgNode* pNode) {
     if (pNode && !CNodeBookkeeping::DocumentOf(*pNode)) {
         CNodeBookkeeping::Register(*pNode, m_desk.Document());
+    }
+}
+
+// The module's own kind of text object cannot outlive its code. Identity, name and places stay.
+void CStage::TakeTextsOver() {
+    CVorDoc& doc = *m_desk.Document();
+    m_names.NameNewNodes();
+    for (CImgNode* pNode : CNodeBookkeeping::NodesById(doc)) {
+        if (pNode->m_nType != node_type::Text) {
+            continue;
+        }
+        const std::uint32_t nId = pNode->m_nId;
+        auto* pOwn = new CTextNode(&doc);
+        if (pOwn) {
+            StandInFor(*doc.GetObjList(), pNode, pOwn);
+            StandInFor(*doc.GetActList(), pNode, pOwn);
+            pOwn->m_fnMoveMemberDataFrom(static_cast<CTextNode*>(pNode));
+        }
+        delete pNode;
+        if (pOwn) {
+            pOwn->m_nId = nId;
+        }
     }
 }
 
