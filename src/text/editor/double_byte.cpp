@@ -13,3 +13,7 @@ bool IsLeadAt(const CString& strLine, int nIndex) {
     }
     return nStart == nIndex && nStep == 2;
 }
+
+int WholeCharacters(const CString& strLine, int nBytes) {
+    return nBytes < strLine.GetLength() && IsLeadAt(strLine, nBytes - 1) ? nBytes + 1 : nBytes;
+}

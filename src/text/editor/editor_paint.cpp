@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "text/editor/double_byte.h"
 #include "text/editor/inplace_editor.h"
 
 // The parent has painted what lies under the text.
@@ -62,8 +63,8 @@ void CInplaceEditor::PaintLine(CDC& dc, const CTextLayout& layout, const CRect& 
 void CInplaceEditor::PaintSelectedLine(CDC& dc, const CTextLayout& layout, const CRect& rcLine,
                                        const CString& strLine, const LineSpan& span) {
     const int nLength = strLine.GetLength();
-    const int nFirst = std::max(span.nFrom + 1, 0);
-    const int nEnd = std::min(span.nTo + 1, nLength);
+    const int nFirst = WholeCharacters(strLine, std::max(span.nFrom + 1, 0));
+    const int nEnd = WholeCharacters(strLine, std::min(span.nTo + 1, nLength));
     const std::array<int, 4> ends = {0, nFirst, nEnd, nLength};
     for (size_t i = 0; i + 1 < ends.size(); ++i) {
         dc.TextOut(rcLine.left + layout.ExtentOf(strLine, ends[i]), rcLine.top,

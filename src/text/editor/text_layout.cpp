@@ -1,6 +1,8 @@
 #include "text/editor/text_layout.h"
 
 #include <algorithm>
+#include <memory>
+#include <new>
 
 #include "ops/saturate.h"
 #include "text/text_style.h"
@@ -119,5 +121,16 @@ bool CTextLayout::Offsets(const CString& strLine, int* pnCount, int* pOffsets) c
 }
 
 int CTextLayout::ExtentOf(const CString& strLine, int nBytes) const {
-    return nBytes > 0 ? ExtentIn(m_hDC, strLine, std::min(nBytes, strLine.GetLength())).cx : 0;
+    const int nLength = strLine.GetLength();
+    const int nEnd = std::min(nBytes, nLength);
+    if (nEnd <= 0) {
+        return 0;
+    }
+    if (nEnd == nLength || !IsDBCSLeadByte(static_cast<BYTE>(strLine[nEnd - 1]))) {
+        return ExtentIn(m_hDC, strLine, nEnd).cx;
+    }
+    // The end may lie inside a character, so what follows plays a part.
+    const std::unique_ptr<int[]> pOffsets(new (std::nothrow) int[static_cast<size_t>(nLength)]());
+    int nCount = 0;
+    return pOffsets && Offsets(strLine, &nCount, pOffsets.get()) ? pOffsets[nEnd - 1] : 0;
 }

@@ -52,7 +52,7 @@ class CTextLayout {
     /// The extent of the bytes up to and with each one. False, nothing written, when the line is empty or
     /// cannot be measured. `pOffsets` has room for the line's bytes; `*pnCount` receives how many fit.
     bool Offsets(const CString& strLine, int* pnCount, int* pOffsets) const;
-    /// The extent of the first `nBytes` bytes.
+    /// The extent of the first `nBytes` bytes. Both bytes of a character end where it ends.
     int ExtentOf(const CString& strLine, int nBytes) const;
 
   private:
