@@ -146,7 +146,8 @@ void CTextBench::Typing(const Standing& standing) {
                 nPixels += m_paints.Pixels() - nBefore;
             }
         }
-        Check(m_pEditor->Lines().LengthOf(m_n - 1) == LineBytes + Keys, "every character typed");
+        POSITION last = m_pEditor->Lines().Last();
+        Check(m_pEditor->Lines().Prev(last).GetLength() == LineBytes + Keys, "every character typed");
         m_stage.Key(VK_BACK, Keys);
         m_stage.Paint();
     }

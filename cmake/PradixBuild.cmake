@@ -11,6 +11,7 @@ if(NOT CMAKE_BUILD_TYPE)
 endif()
 
 option(PRADIX_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(PRADIX_FUZZ "Build the fuzzer and everything for it; clang alone" OFF)
 
 # Modules are found beside the program that loads them, and libraries beside whoever needs them.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
@@ -37,4 +38,10 @@ if(PRADIX_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
     # Instrumented code confuses the flow analysis behind this warning.
     add_compile_options(-Wno-maybe-uninitialized)
+endif()
+
+if(PRADIX_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=vptr,function
+        -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
 endif()

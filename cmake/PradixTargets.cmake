@@ -27,9 +27,16 @@ function(pradix_needs target)
     endforeach()
 endfunction()
 
+# Whatever a library or module uses it links. Clang's sanitizers alone come with the program that loads it.
+function(pradix_no_undefined target)
+    if(NOT PRADIX_FUZZ)
+        target_link_options(${target} PRIVATE -Wl,--no-undefined)
+    endif()
+endfunction()
+
 # A shared library whose calls to itself need no detour: nothing ever replaces its symbols.
 function(pradix_shared_library_options target)
-    target_link_options(${target} PRIVATE -Wl,--no-undefined)
+    pradix_no_undefined(${target})
     target_compile_options(${target} PRIVATE -fno-semantic-interposition)
 endfunction()
 

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "editor_binding.h"
 #include "editor_host.h"
@@ -240,21 +241,23 @@ void CEditorFuzz::Surroundings(int nKind) {
 
 void CEditorFuzz::CheckLaws() {
     const CInplaceEditor& editor = Editor();
-    const auto inText = [&editor](const TextPosition& place) {
-        return place.nLine >= 0 && place.nLine < editor.Lines().GetCount() && place.nIndex >= -1 &&
-               place.nIndex < editor.Lines().LengthOf(place.nLine);
-    };
-    Require(editor.Lines().GetCount() > 0, "there is a line");
-    Require(inText(editor.Caret()), "the caret is in the text");
-    const TextRange range = editor.Selection();
-    Require(!editor.HasSelection() || (inText(range.start) && inText(range.end) && range.start < range.end),
-            "the selection is in the text");
+    std::vector<int> lengths;
     int nBytes = 0;
     for (POSITION position = editor.Lines().Begin(); position;) {
         const CString& strLine = editor.Lines().Next(position);
         Require(strLine.Find('\n') < 0, "no line has a line break");
+        lengths.push_back(strLine.GetLength());
         nBytes += strLine.GetLength() + 1;
     }
+    const auto inText = [&lengths](const TextPosition& place) {
+        return place.nLine >= 0 && place.nLine < static_cast<int>(lengths.size()) && place.nIndex >= -1 &&
+               place.nIndex < lengths[static_cast<std::size_t>(place.nLine)];
+    };
+    Require(!lengths.empty(), "there is a line");
+    Require(inText(editor.Caret()), "the caret is in the text");
+    const TextRange range = editor.Selection();
+    Require(!editor.HasSelection() || (inText(range.start) && inText(range.end) && range.start < range.end),
+            "the selection is in the text");
     if (nBytes > MostBytes) {
         CString strNothing;
         (Editor().*Calls().m_fnSetText)(strNothing);
