@@ -27,18 +27,16 @@ void CInplaceEditor::PaintLines(CDC& dc) {
     const CRect rcArea = layout.Area();
     const int nSaved = dc.SaveDC();
     SelectTextFormat(dc, Format(), TA_LEFT | TA_TOP);
-    int nLine = 0;
-    CRect rcRow(rcArea.left, rcArea.top, rcArea.right, rcArea.top + layout.LineHeight());
-    for (POSITION position = m_lines.Begin(); position; ++nLine) {
+    const int nAbove = layout.LineHeight() > 0 ? (rcClip.top - rcArea.top) / layout.LineHeight() : 0;
+    int nLine = std::max(nAbove, 0);
+    for (POSITION position = m_lines.PositionOf(nLine); position; ++nLine) {
         const CString& strLine = m_lines.Next(position);
+        const CRect rcLine = layout.LineRect(rcArea, nLine, strLine);
         // Nothing that stands lower can show, either.
-        if (rcRow.top >= rcClient.bottom || rcRow.bottom <= rcClient.top || rcRow.top >= rcClip.bottom) {
+        if (rcLine.top >= rcClient.bottom || rcLine.top >= rcClip.bottom) {
             break;
         }
-        if (rcRow.bottom > rcClip.top) {
-            PaintLine(dc, layout, layout.LineRect(rcArea, nLine, strLine), nLine, strLine);
-        }
-        rcRow.OffsetRect(0, layout.LineHeight());
+        PaintLine(dc, layout, rcLine, nLine, strLine);
     }
     dc.RestoreDC(nSaved);
 }

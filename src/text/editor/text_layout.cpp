@@ -55,13 +55,8 @@ CSize CTextLayout::LineSize(const CString& strLine) const {
 }
 
 CSize CTextLayout::TextSize() const {
-    LONG nWidest = 0;
-    if (m_hDC) {
-        for (POSITION position = m_lines.Begin(); position;) {
-            nWidest = std::max(nWidest, LineSize(m_lines.Next(position)).cx);
-        }
-    }
-    return CSize(nWidest, HeightOf(m_lines.GetCount()));
+    const auto width = [this](const CString& strLine) { return static_cast<int>(LineSize(strLine).cx); };
+    return CSize(m_hDC ? m_lines.Widest(width) : 0, HeightOf(m_lines.GetCount()));
 }
 
 CRect CTextLayout::BoundAt(const CPoint& ptAnchor) const {
