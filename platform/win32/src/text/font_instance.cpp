@@ -129,7 +129,7 @@ int CFontInstance::PairAdvance(WORD bytes, WCHAR code) const {
 bool CFontInstance::IsFixedPitch() const { return m_advances['i'] == m_advances['W']; }
 
 int CFontInstance::Extent(const char* text, int count) const {
-    if (m_page.HasPairs() || count > LongestExtent / std::max(m_widestAdvance, 1)) {
+    if (!IsPlain(count)) {
         return LongExtent(text, count);
     }
     // Four sums, for each waits for its own last addition alone; the bytes come eight at a time.

@@ -5,6 +5,7 @@
 #include "code_page.h"
 #include "face.h"
 
+#include <algorithm>
 #include <string>
 #include <unordered_map>
 
@@ -48,6 +49,11 @@ class CFontInstance {
     Bar Underline() const { return m_underline; }
     Bar StrikeOut() const { return m_strikeOut; }
 
+    /// Whether every byte is a character and no sum of so many advances reaches LongestExtent.
+    bool IsPlain(int count) const {
+        return !m_page.HasPairs() && count <= LongestExtent / std::max(m_widestAdvance, 1);
+    }
+    int ByteAdvance(char byte) const { return m_advances[static_cast<BYTE>(byte)]; }
     /// The sum of the advances, at most LongestExtent.
     int Extent(const char* text, int count) const;
     int Advance(const Character& character) const {

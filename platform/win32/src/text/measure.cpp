@@ -12,8 +12,25 @@ struct Partial {
     int* dx;
 };
 
+static int MeasurePlainPrefix(const CFontInstance& font, LPCSTR text, int count, int limit, int* dx) {
+    int extent = 0;
+    for (int at = 0; at < count; ++at) {
+        extent += font.ByteAdvance(text[at]);
+        if (extent > limit) {
+            return at;
+        }
+        if (dx) {
+            dx[at] = extent;
+        }
+    }
+    return count;
+}
+
 // Character by character, until one does not fit; the bytes that fit.
 static int MeasurePrefix(CFontInstance& font, LPCSTR text, int count, int limit, int* dx) {
+    if (font.IsPlain(count)) {
+        return MeasurePlainPrefix(font, text, count, limit, dx);
+    }
     LONGLONG extent = 0;
     int at = 0;
     while (at < count) {
