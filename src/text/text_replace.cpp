@@ -102,6 +102,15 @@ CTextNode* CToolCore::RecolorTextNode(CTextNode* pNode, COLORREF crColor) {
     return pNode;
 }
 
+// It was shown round the old text's middle, which is repainted here: callers know its last place alone.
+void CToolCore::MoveRebuilt(CTextNode& node, CPoint ptCorner) {
+    CRefresh refresh;
+    AddMarkArea(&node, refresh);
+    m_fnOffsetObject(&node, ptCorner - node.m_fnGetBoundRectWithFrame().TopLeft());
+    FlushViewRect(&refresh.Area());
+    RedrawRect(&refresh.Area());
+}
+
 int CToolCore::m_fnRebuildTextAtSize(CImgNode* pNode, int nPixelSize, const CPoint* pptCorner) {
     CTextNode* const pText = AsText(pNode);
     TextAttributes attributes;
@@ -129,7 +138,7 @@ int CToolCore::m_fnRebuildTextAtSize(CImgNode* pNode, int nPixelSize, const CPoi
     }
     pRebuilt.release();
     if (pptCorner) {
-        m_fnOffsetObject(pText, *pptCorner - pText->m_fnGetBoundRectWithFrame().TopLeft());
+        MoveRebuilt(*pText, *pptCorner);
     }
     if (pText->m_pShadowNode) {
         pText->m_shadow = shadow;

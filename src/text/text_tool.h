@@ -77,6 +77,7 @@ class CTextTool : public CTextToolBase, public IInplaceEditorNotify, public ITex
     // The commit.
     void CommitText(CCanvas& canvas, const CString& strText);
     CTextNode* BuildCommitted(const CString& strText);
+    bool TakeLook(CTextNode& node);
     void KeepUnsaved(CCanvas& canvas, const CString& strText);
     void TakePanelTransparency(CTextNode& node);
     void CommitNew(CCanvas& canvas, CTextNode& node, const CRect& rcDoc);

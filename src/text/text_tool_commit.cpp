@@ -59,15 +59,9 @@ void CTextTool::CommitText(CCanvas& canvas, const CString& strText) {
     const CRect rcDoc = canvas.ToDocument(rcText);
     const int nAlignment = KnownAlignment(m_pEditor->m_fnGetAlignType());
     std::unique_ptr<CTextNode> pNew(BuildCommitted(strText));
-    if (!pNew) {
+    if (!pNew || !TakeLook(*pNew)) {
         KeepUnsaved(canvas, strText);
         return;
-    }
-    if (m_pEdited) {
-        CopyEffect(*pNew, *m_pEdited);
-        CopyDisplayValues(*pNew, *m_pEdited);
-    } else {
-        TakePanelTransparency(*pNew);
     }
     CloseEditor();
     if (m_pEdited) {
@@ -88,6 +82,17 @@ CTextNode* CTextTool::BuildCommitted(const CString& strText) {
                         (m_pEditor->m_fnIsUnderLine() ? text_style::Underline : 0);
     attributes.crText = m_pEditor->m_fnGetTextColor();
     return m_fnCreateText(strText, attributes);
+}
+
+// That of the edited object, or the panel's for new text. False when the object's display values are refused,
+// which would be lost with the old object.
+bool CTextTool::TakeLook(CTextNode& node) {
+    if (!m_pEdited) {
+        TakePanelTransparency(node);
+        return true;
+    }
+    CopyEffect(node, *m_pEdited);
+    return CopyDisplayValues(node, *m_pEdited);
 }
 
 // The text stays with the tool, and an edited object goes back as it was.

@@ -228,6 +228,7 @@ class CToolCore : public CToolListener {
     CTextNode* TextInLookOf(const CTextNode& target, const CTextNode& source);
     void TakeTextLook(CTextNode& target, CTextNode& rebuilt, const CTextNode& source);
     void ShowReplaced(const CRect& rcArea, int nRedraw);
+    void MoveRebuilt(CTextNode& node, CPoint ptCorner);
 
     void FinishStacking(CCanvas& canvas);
     void AlignEdge(int nRule);
