@@ -42,19 +42,24 @@ void MixRow(std::uint32_t* pTarget, const std::uint8_t* pSource, const std::uint
         MixChunk(pTarget + at, pSource + at * 3, pMask + at, std::min(ChunkPixels, nCount - at));
 }
 
-bool IsPlain(std::uint8_t mask) { return mask == 0 || mask == 255; }
+/// Whether a machine word of one plain value starts at `at`.
+bool IsPlainAt(const std::uint8_t* pMask, int at, int nCount) {
+    std::uint64_t word = 1;
+    if (at + 8 <= nCount)
+        std::memcpy(&word, pMask + at, sizeof word);
+    return word == 0 || word == ~std::uint64_t{0};
+}
 
-/// The end of the run that starts at `at`: of one plain value, or of values that must be mixed. Plain runs
-/// are long, so they are followed a machine word at a time.
-int RunEnd(const std::uint8_t* pMask, int at, int nCount) {
+/// The end of the run that starts at `at`: of one plain value, or of values that are mixed. Plain runs are
+/// long, so they are followed a machine word at a time; short ones, as between the stems of letters, are
+/// mixed with what stands round them.
+int RunEnd(const std::uint8_t* pMask, int at, int nCount, bool bPlain) {
     const std::uint8_t first = pMask[at];
-    if (!IsPlain(first)) {
-        while (++at < nCount && !IsPlain(pMask[at])) {}
+    if (!bPlain) {
+        while (++at < nCount && !IsPlainAt(pMask, at, nCount)) {}
         return at;
     }
-    const std::uint64_t same = first * 0x0101010101010101U;
-    std::uint64_t word = same;
-    while (at + 8 <= nCount && (std::memcpy(&word, pMask + at, sizeof word), word == same))
+    while (IsPlainAt(pMask, at, nCount) && pMask[at] == first)
         at += 8;
     while (at < nCount && pMask[at] == first)
         ++at;
@@ -82,11 +87,12 @@ void CopyRow(std::uint32_t* pTarget, const std::uint8_t* pSource, int nCount) {
 
 void MaskRow(std::uint32_t* pTarget, const std::uint8_t* pSource, const std::uint8_t* pMask, int nCount) {
     for (int at = 0, end = 0; at < nCount; at = end) {
-        end = RunEnd(pMask, at, nCount);
-        if (pMask[at] == 255)
-            CopyRow(pTarget + at, pSource + at * 3, end - at);
-        else if (pMask[at] != 0)
+        const bool bPlain = IsPlainAt(pMask, at, nCount);
+        end = RunEnd(pMask, at, nCount, bPlain);
+        if (!bPlain)
             MixRow(pTarget + at, pSource + at * 3, pMask + at, end - at);
+        else if (pMask[at] == 255)
+            CopyRow(pTarget + at, pSource + at * 3, end - at);
     }
 }
 
