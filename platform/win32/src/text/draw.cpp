@@ -34,31 +34,37 @@ static DWORD Blend(DWORD pixel, DWORD ink, DWORD share) {
            (((pixel & Green) * rest + (ink & Green) * share) >> 8 & Green);
 }
 
-typedef std::uint8_t TwoPixels __attribute__((vector_size(8)));
-
-static Quad::Lanes InkLanes(DWORD ink) {
-    Quad::Lanes lanes{};
-    for (int i = 0; i < 8; ++i) {
-        lanes[i] = static_cast<std::uint16_t>(ink >> (i % 4 * 8) & 0xFF);
+// A pixel's bytes stand in two lanes of 16 bits, the first and third low, the second and fourth high.
+struct InkLanes {
+    explicit InkLanes(DWORD ink) {
+        for (int i = 0; i < 8; ++i) {
+            const DWORD lane = ink >> (i % 2 * 16) & 0xFFFF;
+            low[i] = static_cast<std::uint16_t>(lane & 0xFF);
+            high[i] = static_cast<std::uint16_t>(lane >> 8);
+        }
     }
-    return lanes;
-}
 
-// As Blend, two pixels at a time; the products wrap around, their sum does not.
-static void BlendTwo(DWORD* pixels, const Quad::Lanes& ink, const Quad::Lanes& share) {
-    TwoPixels bytes;
-    std::memcpy(&bytes, pixels, sizeof bytes);
-    const auto old = __builtin_convertvector(bytes, Quad::Lanes);
-    const Quad::Lanes mixed = ((old << 8) + (ink - old) * share) >> 8;
-    bytes = __builtin_convertvector(mixed, TwoPixels);
-    std::memcpy(pixels, &bytes, sizeof bytes);
+    Quad::Lanes low{};
+    Quad::Lanes high{};
+};
+
+// As Blend, four pixels at once; the products wrap around, their sum does not.
+static void BlendQuad(DWORD* pixels, const InkLanes& ink, const Quad::Lanes& share) {
+    Quad::Lanes old;
+    std::memcpy(&old, pixels, sizeof old);
+    const Quad::Lanes low = old & 0xFF;
+    const Quad::Lanes high = old >> 8;
+    const Quad::Lanes mixedLow = ((low << 8) + (ink.low - low) * share) >> 8;
+    const Quad::Lanes mixedHigh = ((high << 8) + (ink.high - high) * share) & 0xFF00;
+    const Quad::Lanes mixed = mixedLow | mixedHigh;
+    std::memcpy(pixels, &mixed, sizeof mixed);
 }
 
 /// Draws pictures of one ink on an open canvas.
 class CGlyphPainter {
   public:
     CGlyphPainter(const Canvas& canvas, DWORD ink, int top, int height)
-        : m_canvas(canvas), m_ink(ink), m_inkLanes(InkLanes(ink)), m_top(top),
+        : m_canvas(canvas), m_ink(ink), m_inkLanes(ink), m_top(top),
           m_wholeRows(!canvas.monochrome && top >= canvas.clip.top && top + height <= canvas.clip.bottom) {}
 
     void Draw(const Glyph& glyph, LONG pen) const {
@@ -74,9 +80,7 @@ class CGlyphPainter {
   private:
     void DrawQuads(const Glyph& glyph, DWORD* corner) const {
         for (const Quad& quad : glyph.quads) {
-            DWORD* pixels = corner + quad.y * m_canvas.stride + quad.x;
-            BlendTwo(pixels, m_inkLanes, quad.first);
-            BlendTwo(pixels + 2, m_inkLanes, quad.second);
+            BlendQuad(corner + quad.y * m_canvas.stride + quad.x, m_inkLanes, quad.share);
         }
     }
 
@@ -106,7 +110,7 @@ class CGlyphPainter {
 
     const Canvas& m_canvas;
     const DWORD m_ink;
-    const Quad::Lanes m_inkLanes;
+    const InkLanes m_inkLanes;
     const LONG m_top;
     const bool m_wholeRows; // Every row of a picture may be drawn, and in colours.
 };
@@ -119,7 +123,7 @@ static void DrawGlyphs(const Canvas& canvas, CFontInstance& font, std::string_vi
     const int count = static_cast<int>(text.size());
     LONG pen = corner.x;
     for (int at = 0; at < count && pen < end;) {
-        const Character next = FirstCharacter(font.Page(), text.data() + at, count - at);
+        const Character next = font.First(text.data() + at, count - at);
         const LONG after = pen + font.Advance(next);
         if (after + overhang > canvas.clip.left) {
             painter.Draw(font.Picture(next), pen);

@@ -100,10 +100,7 @@ static Quad QuadAt(const Glyph& glyph, int x, int y) {
     quad.y = glyph.top + y;
     for (int i = 0; i < Quad::Width && x + i < glyph.width; ++i) {
         const int coverage = glyph.At(x + i, y);
-        Quad::Lanes& lanes = i < 2 ? quad.first : quad.second;
-        for (int byte = 0; byte < 4; ++byte) {
-            lanes[i % 2 * 4 + byte] = static_cast<std::uint16_t>(coverage + (coverage >> 7));
-        }
+        quad.share[2 * i] = quad.share[2 * i + 1] = static_cast<std::uint16_t>(coverage + (coverage >> 7));
     }
     return quad;
 }

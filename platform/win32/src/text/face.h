@@ -13,14 +13,13 @@ namespace win32 {
 
 struct FontFile;
 
-/// How much of four neighbouring pixels a glyph covers, once for each of a pixel's four bytes, of 256.
+/// How much of four neighbouring pixels a glyph covers, of 256.
 struct Quad {
     static constexpr int Width = 4;
     typedef std::uint16_t Lanes __attribute__((vector_size(16)));
 
-    Lanes first;  // Two pixels.
-    Lanes second; // The other two.
-    int x;        // From the picture's left end.
+    Lanes share; // Twice for each pixel.
+    int x;       // From the picture's left end.
     int y;
 };
 

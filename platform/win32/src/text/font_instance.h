@@ -49,6 +49,12 @@ class CFontInstance {
     Bar Underline() const { return m_underline; }
     Bar StrikeOut() const { return m_strikeOut; }
 
+    /// As FirstCharacter of the font's page.
+    Character First(const char* text, int count) const {
+        const BYTE byte = static_cast<BYTE>(*text);
+        return m_page.HasPairs() ? FirstCharacter(m_page, text, count)
+                                 : Character{byte, m_page.single[byte], 1};
+    }
     /// Whether every byte is a character and no sum of so many advances reaches LongestExtent.
     bool IsPlain(int count) const {
         return !m_page.HasPairs() && count <= LongestExtent / std::max(m_widestAdvance, 1);
