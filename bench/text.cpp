@@ -21,8 +21,9 @@ constexpr int LineBytes = 100;
 constexpr int Keys = 30;
 constexpr int MeasuredLines = 1000;
 constexpr int LastY = page::Height - 30; ///< where the last line stands while it is typed at
-constexpr int FarthestY = 32700;         ///< a mouse message has no room for more
-constexpr CSize Margin = {4, 3};         ///< into the editor's first line
+constexpr int LargestWindow = 32767;
+constexpr int FarthestY = 32700; ///< a mouse message has no room for more
+constexpr CSize Margin = {4, 3}; ///< into the editor's first line
 
 /// Line i of the text: lower-case words, exactly 100 bytes.
 std::string LineOf(int i) {
@@ -73,7 +74,8 @@ class CTextBench {
     const EditorCalls& Calls() { return *m_stage.EditorOperations(); }
     double Open(const Standing& standing, int nFirstLineY);
     void Close();
-    void MoveToEnd();
+    int LineHeight();
+    void MoveToEnd(int nLine);
     double Step(CPoint point);
 
     int m_n;
@@ -110,25 +112,28 @@ void CTextBench::Close() {
     m_stage.Paint();
 }
 
-// The first line's height follows from the window's, which is higher by two margins and its last edge.
-void CTextBench::MoveToEnd() {
+int CTextBench::LineHeight() {
     CRect rc;
-    m_pEditor->GetWindowRect(rc);
+    (m_pEditor.get()->*Calls().m_fnGetTextBoundRect)(rc);
+    return (rc.Height() - 2) / m_n;
+}
+
+// To the end of the typed line, which stands at the bottom of the view.
+void CTextBench::MoveToEnd(int nLine) {
     CPoint ptEnd(page::Width, LastY);
     (m_pEditor.get()->*Calls().m_fnMoveCursorTo)(ptEnd);
-    Check(m_pEditor->Caret() == TextPosition{m_n - 1, LineBytes - 1}, "the caret at the end");
-    Check(rc.bottom > LastY && rc.bottom <= page::Height, "the last line in the view");
+    Check(m_pEditor->Caret() == TextPosition{nLine, LineBytes - 1}, "the caret at the end");
     m_stage.Paint();
 }
 
+// A window is at most so high; a longer text is typed at in the last line that it shows whole.
 void CTextBench::Typing(const Standing& standing) {
     Open(standing, 0);
-    CRect rc;
-    m_pEditor->GetClientRect(rc);
-    const int nLineHeight = (rc.Height() - 3) / m_n;
+    const int nLineHeight = LineHeight();
+    const int nTyped = std::min(m_n, LargestWindow / nLineHeight - 1) - 1;
     Close();
-    Open(standing, LastY - nLineHeight * (m_n - 1));
-    MoveToEnd();
+    Open(standing, LastY - nLineHeight * nTyped);
+    MoveToEnd(nTyped);
     std::vector<double> us;
     const int nRounds = m_n >= 10000 ? 5 : 20;
     long nPixels = 0;
@@ -146,8 +151,7 @@ void CTextBench::Typing(const Standing& standing) {
                 nPixels += m_paints.Pixels() - nBefore;
             }
         }
-        POSITION last = m_pEditor->Lines().Last();
-        Check(m_pEditor->Lines().Prev(last).GetLength() == LineBytes + Keys, "every character typed");
+        Check(m_pEditor->Caret() == TextPosition{nTyped, LineBytes + Keys - 1}, "every character typed");
         m_stage.Key(VK_BACK, Keys);
         m_stage.Paint();
     }
