@@ -321,7 +321,7 @@ TEST_F(Click, AnswersWhatTheOtherToolAnswered) {
 
     m_stage.Input().OnLButtonUp(0, {220, 30});
     m_stage.UseTool("CSelectTool");
-    m_stage.Desk().SetHandover(kind::TextPage, 3, "CDisplayPageTool");
+    m_stage.Desk().SetHandover(kind::TextPage, 3, "CTextToolBase");
     m_stage.FailUndoEvent(1); // the other tool's first snapshot
     m_stage.TextBox("U", 300, 10);
     EXPECT_EQ(m_stage.PressAnswer({320, 30}), 0);

@@ -234,7 +234,7 @@ TEST_F(TextAttributes, HookIgnoresWhatIsNotTheOnlySelectedText) {
         m_stage.Select(selection);
         m_stage.Ops().HookNode(m_stage.Node(node));
         m_stage.Select({});
-        m_stage.DblClick({500, 50});
+        m_stage.SecondPress({500, 50});
         EXPECT_EQ(m_stage.Editor()->m_fnGetFontSizeInPixel(), 16) << node;
         m_stage.EndEditor();
     }

@@ -305,6 +305,36 @@ TEST_F(TextCommit, EditedTextKeepsIdentityLookEffectAndTruncatedShadow) {
     EXPECT_EQ(m_stage.Node("T.shadow")->m_tx.nX, text.m_tx.nX + 5);
 }
 
+TEST_F(TextCommit, SettingsOfAShadowThatIsGoneAreTruncatedToo) {
+    m_stage.AddText("T", "Hello", 100, 100);
+    m_stage.Text("T").m_shadow = {5.9, -5.9, 2.9, 33, RGB(9, 8, 7)};
+    m_stage.Edit("T");
+    m_stage.EndEditor();
+
+    const CShadowParam& shadow = m_stage.Text("T").m_shadow;
+    EXPECT_EQ(m_stage.PageNames(), Lines{"T"});
+    EXPECT_EQ(shadow.dOffsetX, 5);
+    EXPECT_EQ(shadow.dOffsetY, -5);
+    EXPECT_EQ(shadow.dSoftness, 2);
+}
+
+// The mark area is the object widened by 4; the longer text covers the shorter one's.
+TEST_F(TextCommit, RefreshCoversTheOldBoundsAsWellAsTheNew) {
+    m_stage.AddText("T", "Hello, my friend", 100, 100);
+    CRect rcMarks = m_stage.Rect("T");
+    rcMarks.InflateRect(4, 4);
+    m_stage.Edit("T");
+    m_stage.WriteInEditor("i");
+    m_stage.Forget();
+    m_stage.EndEditor();
+
+    const Lines told = m_stage.Told();
+    const std::string area = std::to_string(rcMarks.left) + " " + std::to_string(rcMarks.top) + " " +
+                             std::to_string(rcMarks.right) + " " + std::to_string(rcMarks.bottom);
+    EXPECT_THAT(told, testing::Contains("flush " + area));
+    EXPECT_THAT(told, testing::Contains("repaint " + area + " erase"));
+}
+
 // Two lines are twice the line height and 2 pixels of margin.
 TEST_F(TextCommit, FrameIsScaledByTheHeightsAndCentred) {
     m_stage.AddText("T", "Hello", 200, 200);

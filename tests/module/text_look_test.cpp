@@ -112,21 +112,26 @@ TEST_F(TextLook, RebuiltInPlaceTakesTheWidthOfAFreshBuild) {
     EXPECT_TRUE(m_stage.ShowsTruePicture());
 }
 
+// An emboss of 64 pixels' text reaches 3 pixels to all sides.
 TEST_F(TextLook, EffectIsRemovedRoundTheMiddleAndTheRestStays) {
-    const CPoint ptOld = Middle("T");
-    const auto nId = m_stage.Node("T")->m_nId;
-    m_stage.Select({"T"});
+    m_stage.AddText("W", "Hello", 300, 200, {.pixels = 64, .effect = TextEffect::Emboss});
+    m_stage.Text("W").m_fnUpdateBCAndT(10, 20, 30);
+    m_stage.RealShadow("W");
+    m_stage.Forget();
+    const CPoint ptOld = Middle("W");
+    const auto nId = m_stage.Node("W")->m_nId;
+    m_stage.Select({"W"});
     const int nWaits = m_stage.WaitCursors();
 
     m_stage.Main().m_fnRemoveTextEffect(ptOld);
 
-    EXPECT_EQ(EffectOf("T"), TextEffect::None);
-    EXPECT_EQ(m_stage.Rect("T").Size(), Hello16);
-    ExpectMiddle("T", ptOld);
-    ExpectOldShadow("T");
-    EXPECT_EQ(m_stage.Text("T").m_nBrightness, 10);
-    EXPECT_EQ(m_stage.Text("T").m_nTransparency, 30);
-    EXPECT_EQ(m_stage.Node("T")->m_nId, nId);
+    EXPECT_EQ(EffectOf("W"), TextEffect::None);
+    EXPECT_EQ(m_stage.Rect("W").Size(), PictureSize({"Hello"}, 64));
+    ExpectMiddle("W", ptOld);
+    ExpectOldShadow("W");
+    EXPECT_EQ(m_stage.Text("W").m_nBrightness, 10);
+    EXPECT_EQ(m_stage.Text("W").m_nTransparency, 30);
+    EXPECT_EQ(m_stage.Node("W")->m_nId, nId);
     EXPECT_EQ(m_stage.UndoClasses(), Lines{});
     EXPECT_EQ(m_stage.WaitCursors() - nWaits, 1);
     EXPECT_EQ(m_stage.ToldOnBus(), (Lines{"tracker.3 1", "changed.1 27", "changed2.1 27 0", "redrawn.1 27"}));
