@@ -8,7 +8,7 @@
 class CDesk;
 
 /// Owns at most one editor on the bare view and ends it when its input ends.
-class CEditorHost : private IInplaceEditorNotify {
+class CEditorHost final : private IInplaceEditorNotify {
   public:
     /// The desk is not owned and outlives the host's editor.
     explicit CEditorHost(CDesk& desk) : m_desk(desk) {}
