@@ -78,9 +78,12 @@ class CGlyphPainter {
     }
 
   private:
+    // Copies of its own, because a written pixel might be any member.
     void DrawQuads(const Glyph& glyph, DWORD* corner) const {
+        const InkLanes ink = m_inkLanes;
+        const ptrdiff_t stride = m_canvas.stride;
         for (const Quad& quad : glyph.quads) {
-            BlendQuad(corner + quad.y * m_canvas.stride + quad.x, m_inkLanes, quad.share);
+            BlendQuad(corner + quad.y * stride + quad.x, ink, quad.share);
         }
     }
 
