@@ -69,13 +69,15 @@ class EmbeddedText : public testing::Test {
     CImgNode* m_pB = nullptr;
 };
 
-TEST_F(EmbeddedText, WithoutAnOwnerItDeclinesAllInput) {
+TEST_F(EmbeddedText, WithoutAnOwnerItDeclinesAllInputThoughItIsLinked) {
+    m_text.Activate();
     m_text.SetOwner(nullptr);
 
     EXPECT_EQ(m_text.OnLButtonDblClk(0, Ground), 0);
     EXPECT_EQ(m_text.OnLButtonDown(0, Ground), 0);
     EXPECT_EQ(m_text.OnLButtonUp(0, Ground), 0);
     EXPECT_FALSE(m_text.IsEditing());
+    m_text.Deactivate();
     EXPECT_FALSE(m_text.IsActive());
 }
 
@@ -103,12 +105,12 @@ TEST_F(EmbeddedText, PressIsItsOwnOnEmptyGroundAlone) {
         int nAnswer;
         INT_PTR nSelected;
     };
+    m_text.SetOwner(&m_desk.Tool());
     const std::vector<PressRow> rows = {{{}, Ground, 1, 0}, {{m_pA}, Ground, 0, 1}, {{}, {30, 30}, 0, 1}};
     for (const PressRow& row : rows) {
         Select(row.selection);
         EXPECT_EQ(m_text.OnLButtonDown(0, row.point), row.nAnswer) << row.point.x;
         EXPECT_EQ(m_desk.Selection().GetCount(), row.nSelected) << row.point.x;
-        m_owner.OnLButtonUp(0, row.point);
         ::ReleaseCapture();
     }
 }
@@ -144,11 +146,14 @@ TEST_F(EmbeddedText, CommitShowsTheOwnersMarks) {
 TEST_F(EmbeddedText, ActivationIsCounted) {
     const int nOwners = TargetCount(m_owner);
     ASSERT_GT(nOwners, 0);
+    CListenerObject& host = *m_owner.m_fnFirst();
+    const int nOfHost = TargetCount(host);
     EXPECT_EQ(TargetCount(m_text), 0);
 
     m_text.Activate();
     m_text.Activate();
     EXPECT_EQ(TargetCount(m_text), nOwners) << "linked to all that the owner is linked to";
+    EXPECT_EQ(TargetCount(host), nOfHost + 1) << "and they to it";
     EXPECT_EQ(ActiveListener(), &m_text);
 
     m_text.Deactivate();
@@ -158,6 +163,7 @@ TEST_F(EmbeddedText, ActivationIsCounted) {
 
     m_text.Deactivate();
     EXPECT_EQ(TargetCount(m_text), 0);
+    EXPECT_EQ(TargetCount(host), nOfHost);
     EXPECT_EQ(ActiveListener(), &m_owner);
     EXPECT_EQ(TargetCount(m_owner), nOwners);
 }
