@@ -1,5 +1,7 @@
 #include "stage.h"
 
+#include <unistd.h>
+
 #include <filesystem>
 #include <fstream>
 
@@ -206,8 +208,10 @@ TEST(EditorDump, TellsTextByTheCodePage) {
 }
 
 /// A file in the folder for passing things, gone at the end.
+/// Of a name of its own, because tests run side by side.
 struct PassingFile {
-    explicit PassingFile(const char* pszName) : name(testing::TempDir() + pszName) {}
+    explicit PassingFile(const char* pszName)
+        : name(testing::TempDir() + std::to_string(getpid()) + '-' + pszName) {}
     ~PassingFile() { std::filesystem::remove(name); }
 
     std::string name;

@@ -88,8 +88,8 @@ TEST_F(TextLook, ReplacementNeedsTwoTextsThatAreNobodysCompanion) {
     const std::vector<std::array<const char*, 2>> rows = {{"T", "C"}, {"C", "R"},    {"A", "R"},
                                                           {"T", "A"}, {"T", "none"}, {"none", "R"}};
     for (const auto& [pszOld, pszNew] : rows) {
-        CTextNode* pOld = &m_stage.Text(pszOld);
-        CTextNode* pNew = &m_stage.Text(pszNew);
+        auto* pOld = static_cast<CTextNode*>(m_stage.Node(pszOld));
+        auto* pNew = static_cast<CTextNode*>(m_stage.Node(pszNew));
         EXPECT_EQ(m_stage.Ops().ReplaceTextNode(pOld, pNew, 0), 0) << pszOld << ' ' << pszNew;
         EXPECT_EQ(m_stage.Ops().RebuildTextNodeInPlace(pOld, pNew, 0), 0) << pszOld << ' ' << pszNew;
     }

@@ -54,7 +54,7 @@ class EmbeddedText : public testing::Test {
         m_pB = m_desk.Picture(100, 10, 40, 40);
         m_text.SetOwner(&m_owner);
     }
-    void Select(std::initializer_list<CImgNode*> nodes) {
+    void Select(const std::vector<CImgNode*>& nodes) {
         m_desk.Selection().RemoveAll();
         for (CImgNode* pNode : nodes) {
             m_desk.Selection().AddTail(pNode);
@@ -100,7 +100,7 @@ TEST_F(EmbeddedText, MarksAreTheOwnersWithTheSameNumbers) {
 
 TEST_F(EmbeddedText, PressIsItsOwnOnEmptyGroundAlone) {
     struct PressRow {
-        std::initializer_list<CImgNode*> selection;
+        std::vector<CImgNode*> selection;
         CPoint point;
         int nAnswer;
         INT_PTR nSelected;
