@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <memory>
 
-#include "text/editor/inplace_editor.h"
+#include "editor_binding.h"
 
 namespace {
 

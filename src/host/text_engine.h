@@ -52,9 +52,9 @@ struct textCreateParam {
 };
 
 /// Renders into `object`, which loses what it held. The record's runs are drawn, each also in the parameters'
-/// bold, italic and underline. The picture is the in-place editor's bound rectangle of the same text: wider by
-/// a blank on both sides and higher by a pixel above and below than the lines, whose top-left is the engine's
-/// (0, 0). 1, or 0 (the object is empty then) when the record is empty or broken or memory is out.
+/// bold, italic and underline. The picture is the in-place editor's bound rectangle of the same text: wider
+/// by a blank on both sides and higher by a pixel above and below than the lines, whose top-left is the
+/// engine's (0, 0). 1, or 0 (the object is empty then) when the record is empty or broken or memory is out.
 int Apply(const textCreateParam& param, textObject& object);
 
 } // namespace textCreate
