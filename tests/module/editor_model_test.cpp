@@ -131,6 +131,7 @@ class CRandomText {
     }
 
     void OpenEditor();
+    void OpenAfterEnd();
     void TypeSome();
     void TypeOdd();
     void PressKey();
@@ -240,8 +241,8 @@ bool CRandomText::IsScreenStale() {
 }
 
 std::string CRandomText::Difference() {
-    if (!m_wrong.empty()) {
-        return m_wrong;
+    if (!m_wrong.empty() || !m_stage.Editor()) {
+        return m_wrong.empty() ? "the editor is gone" : m_wrong;
     }
     const EditorState is = EditorNow();
     const EditorState ought = m_pModel->State();
@@ -273,6 +274,9 @@ void CRandomText::Edit() {
         &CRandomText::ChangeLook,    &CRandomText::EndInput,
     };
     (this->*Operations[Below(Operations.size())])();
+    if (m_pModel->IsEnded()) {
+        OpenAfterEnd();
+    }
     bool bLarge = m_pModel->State().lines.size() > MostLines;
     for (const std::string& line : m_pModel->State().lines) {
         bLarge = bLarge || line.size() > LongestLine;
@@ -509,6 +513,10 @@ void CRandomText::EndInput() {
         m_stage.EndEditor();
         m_pModel->End();
     }
+}
+
+// A press behind the edge of a window that is not yet as large as its text ends the input, too.
+void CRandomText::OpenAfterEnd() {
     const bool bEnded = m_stage.EndedText() == m_pModel->Text() && !m_stage.Editor();
     const std::string wrong = bEnded ? "" : "ended with " + Shown(m_stage.EndedText());
     OpenEditor();
