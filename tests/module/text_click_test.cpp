@@ -122,6 +122,25 @@ TEST_F(TextClick, PressThatEndsAnEditingSelectsNothingButItsDoubleClickDoes) {
     EXPECT_EQ(m_stage.PageNames(), (Lines{"T", "U", "A"}));
 }
 
+// An unselected text counts as empty ground, but for the double-click whose press ended an editing.
+TEST_F(TextClick, EndingPressIsForgottenAtTheNextPressAndAtItsDoubleClick) {
+    m_stage.Edit("T");
+    m_stage.Click({500, 300});
+    m_stage.Click({500, 300});
+    m_stage.SecondPress(Middle("U"));
+    EXPECT_EQ(Opened(), "editor of ''");
+    m_stage.EndEditor();
+
+    m_stage.Edit("T");
+    m_stage.Click({500, 300});
+    m_stage.SecondPress(Middle("U"));
+    EXPECT_EQ(Opened(), "editor of 'World'");
+    m_stage.EndEditor();
+    m_stage.Select({});
+    m_stage.SecondPress(Middle("T"));
+    EXPECT_EQ(Opened(), "editor of ''");
+}
+
 TEST_F(TextClick, WithoutATextPageTheBaseHandlesIt) {
     m_stage.HideInterface<ITextAttributePanel>(kind::TextPage);
 

@@ -96,6 +96,46 @@ TEST_F(TextCommit, NewTextTakesThePanelsTransparencyAndShadow) {
     EXPECT_EQ(text.m_shadow.crColor, RGB(1, 2, 3));
 }
 
+TEST_F(TextCommit, TakesTheEditorsFaceStyleAndColourUnderAWaitCursor) {
+    CPanelValues& values = m_stage.Desk().Panels();
+    values.fontName = "Courier New";
+    values.nStyle = 7;
+    values.crText = RGB(1, 2, 3);
+    m_stage.WriteAt({300, 200}, "Hello");
+    const int nWaits = m_stage.WaitCursors();
+    m_stage.EndEditor();
+
+    const CTextNode& text = m_stage.Text("text#1");
+    EXPECT_STREQ(text.m_strFontName, "Courier New");
+    EXPECT_EQ(text.m_crText, RGB(1, 2, 3));
+    EXPECT_EQ((std::array{text.m_nBold, text.m_nItalic, text.m_nUnderline}), (std::array{1, 1, 1}));
+    EXPECT_EQ(m_stage.WaitCursors() - nWaits, 1);
+}
+
+// The view keeps 8 pixels of an object: from 8 on at the left edge, and up to 712 at the right one. A text at
+// 715 lies beyond.
+TEST_F(TextCommit, TextBeyondTheViewsEdgeIsBroughtBackToIt) {
+    m_stage.Desk().Panels().nAlignment = 2;
+    m_stage.WriteAt({1, 200}, "Hello");
+    m_stage.EndEditor();
+    EXPECT_EQ(m_stage.Rect("text#1").right, 8);
+
+    const std::vector<std::function<void()>> works = {
+        [&] { m_stage.Edit("T"), m_stage.EndEditor(); },
+        [&] { m_stage.SetTextColor(RGB(1, 2, 3)); },
+        [&] { m_stage.Main().m_fnRemoveTextEffect(m_stage.Rect("T").TopLeft()); },
+        [&] { m_stage.Ops().CopyNodeLook(m_stage.Node("U"), m_stage.Node("T")); },
+    };
+    for (std::size_t n = 0; n < works.size(); ++n) {
+        m_stage.NewPage(720, 480);
+        m_stage.AddText("U", "Hello", 100, 100);
+        m_stage.AddText("T", "Hello", 715, 100);
+        m_stage.Select({"T"});
+        works[n]();
+        EXPECT_EQ(m_stage.Rect("T").left, 712) << n;
+    }
+}
+
 TEST_F(TextCommit, EditedTextHoldsItsTopAndTheEdgeOfItsAlignment) {
     for (const double dZoom : {1.0, 2.0}) {
         for (const int nAlignment : {0, 1, 2}) {

@@ -1,7 +1,10 @@
 // What fails in an editing session loses neither the object nor the typed text, and leaves nothing behind.
 #include <array>
+#include <memory>
 
+#include "editor_binding.h"
 #include "platform/faults.h"
+#include "text/text_tool.h"
 #include "text_help.h"
 
 namespace {
@@ -49,6 +52,10 @@ TEST_F(TextFailure, WhatIsNoTextToEditIsRefused) {
         EXPECT_EQ(m_stage.EditText(pszNode, {110, 110}), 0) << pszNode;
         ExpectAsBefore(pszNode);
     }
+    m_stage.AddText("C", "companion", 300, 300);
+    m_stage.Text("C").m_pOwner = m_stage.Node("F");
+    EXPECT_EQ(m_stage.EditText("C", {310, 310}), 0);
+    m_stage.Text("C").m_pOwner = nullptr;
     EXPECT_EQ(CDesk::Query<ITextEditEntry>(m_stage.CurrentTool())->EditTextNode(m_stage.Node("T"), nullptr),
               0);
 }
@@ -127,6 +134,16 @@ TEST_F(TextFailure, CommitWithoutPanelsGivesAPlainText) {
 
     EXPECT_EQ(m_stage.Text("text#1").m_nTransparency, 0);
     EXPECT_EQ(m_stage.Node("text#1")->m_pShadowNode, nullptr);
+}
+
+TEST_F(TextFailure, EndOfAnotherEditorIsNotTheToolsOwn) {
+    m_stage.Edit("T");
+    const std::unique_ptr<CInplaceEditor> pOther(MakeEditor(*m_stage.EditorOperations()));
+
+    static_cast<CTextTool*>(m_stage.CurrentTool())->OnInputEnded(pOther.get());
+
+    EXPECT_EQ(m_stage.EditorText(), "Hello");
+    EXPECT_EQ(m_stage.PageNames(), (Lines{"F", "U"}));
 }
 
 TEST_F(TextFailure, PageThatGoesMeanwhileTakesEverythingAlong) {

@@ -73,7 +73,8 @@ TEST_F(TextLook, NothingIsRecolouredWithoutATextOrAnotherColour) {
     const Living before = CTextStage::CountLiving();
     EXPECT_EQ(m_stage.Ops().RecolorTextNode(&m_stage.Text("T"), RGB(255, 255, 255)), nullptr);
     EXPECT_EQ(m_stage.Ops().RecolorTextNode(&m_stage.Text("E"), RGB(1, 2, 3)), nullptr) << "it is empty";
-    EXPECT_EQ(m_stage.Ops().RecolorTextNode(&m_stage.Text("A"), RGB(1, 2, 3)), nullptr);
+    EXPECT_EQ(m_stage.Ops().RecolorTextNode(static_cast<CTextNode*>(m_stage.Node("A")), RGB(1, 2, 3)),
+              nullptr);
     EXPECT_EQ(m_stage.Ops().RecolorTextNode(nullptr, RGB(1, 2, 3)), nullptr);
     platform::ArmFault("text-engine", false, 0);
     EXPECT_EQ(m_stage.Ops().RecolorTextNode(&m_stage.Text("T"), RGB(1, 2, 3)), nullptr);
@@ -100,6 +101,7 @@ TEST_F(TextLook, ReplacementNeedsTwoTextsThatAreNobodysCompanion) {
 // In place of U, a text scaled to another width is brought to what its own attributes give.
 TEST_F(TextLook, RebuiltInPlaceTakesTheWidthOfAFreshBuild) {
     m_stage.AddText("R", "Hello", 0, 0, {.effect = TextEffect::Outline, .offPage = true});
+    m_stage.Select({"U"});
     const CPoint ptOld = Middle("U");
     const std::size_t nNodes = CTextStage::CountLiving().nodes;
 
@@ -136,6 +138,18 @@ TEST_F(TextLook, EffectIsRemovedRoundTheMiddleAndTheRestStays) {
     EXPECT_EQ(m_stage.WaitCursors() - nWaits, 1);
     EXPECT_EQ(m_stage.ToldOnBus(), (Lines{"tracker.3 1", "changed.1 27", "changed2.1 27 0", "redrawn.1 27"}));
     EXPECT_TRUE(m_stage.ShowsTruePicture());
+}
+
+TEST_F(TextLook, FrameOfAFreedTextIsCentredOnIt) {
+    m_stage.Frame("T", {60, 60, 160, 160});
+    const CPoint ptOld = m_stage.Node("T")->m_fnGetBoundRectWithFrame().CenterPoint();
+    m_stage.Select({"T"});
+
+    m_stage.Main().m_fnRemoveTextEffect({100, 100});
+
+    EXPECT_EQ(EffectOf("T"), TextEffect::None);
+    ExpectMiddle("T", Middle("T.frame"));
+    ExpectMiddle("T.frame", ptOld);
 }
 
 TEST_F(TextLook, EffectOfAnUnselectedTextStays) {
@@ -196,6 +210,16 @@ TEST_F(TextLook, CopiedLookTakesTheTargetsOwnCompanionsAway) {
     EXPECT_EQ(m_stage.Node("T")->m_pFrameNode, nullptr);
     EXPECT_EQ(m_stage.Node("T")->m_pShadowNode, nullptr);
     EXPECT_EQ(EffectOf("T"), TextEffect::None);
+}
+
+TEST_F(TextLook, ToolTakesTheCopiedLookOfItsOnlySelectedText) {
+    m_stage.Select({"T"});
+    m_stage.Ops().CopyNodeLook(m_stage.Node("U"), m_stage.Node("T"));
+    m_stage.Select({});
+    m_stage.SecondPress({500, 400});
+
+    EXPECT_EQ(m_stage.Editor()->m_fnGetFontSizeInPixel(), 32);
+    EXPECT_EQ(m_stage.Editor()->m_fnGetAlignType(), 2);
 }
 
 TEST_F(TextLook, PictureTakesTheSourcesSizeRoundItsMiddle) {

@@ -157,6 +157,35 @@ TEST_F(TextResize, DragOfTheRightEdgeIsOneStepThatUndoTakesBack) {
     EXPECT_TRUE(m_stage.ShowsTruePicture());
 }
 
+TEST_F(TextResize, LookComesAlongByHandleAndByRectangle) {
+    m_stage.AddText("T", "Hello", Origin.x, Origin.y, {.effect = TextEffect::Glow});
+    m_stage.Text("T").m_fnUpdateBCAndT(10, 20, 30);
+    m_rcOld = m_stage.Rect("T");
+
+    const std::unique_ptr<CTextNode> pNew = Resized(2, 2, 7);
+    EXPECT_EQ(CTextEffectState::KindOf(*pNew), TextEffect::Glow);
+    EXPECT_EQ(pNew->m_nTransparency, 30);
+    MatchPicture(3, 3);
+    EXPECT_GT(m_stage.Text("T").m_nFontSize, 16);
+    EXPECT_EQ(CTextEffectState::KindOf(m_stage.Text("T")), TextEffect::Glow);
+    EXPECT_EQ(m_stage.Text("T").m_nBrightness, 10);
+}
+
+// It has the saved size already, so the saved corner is not applied either.
+TEST_F(TextResize, UndoLeavesATextOfTheSavedSizeWhereItIs) {
+    const CPoint ptCorner(m_rcOld.right, m_rcOld.bottom);
+    m_stage.Drag(ptCorner, ptCorner + m_rcOld.Size());
+    m_stage.UseTool("CTextTool");
+    m_stage.Select({"T"});
+    m_stage.SetTextSize(12);
+    const CRect rcNow = m_stage.Rect("T");
+    ASSERT_NE(rcNow, m_rcOld);
+
+    m_stage.Undo();
+
+    EXPECT_EQ(m_stage.Rect("T"), rcNow);
+}
+
 TEST_F(TextResize, FrameGrowsByTheTextsHeights) {
     CRect rcFrame = m_rcOld;
     rcFrame.InflateRect(10, 10);
