@@ -28,8 +28,8 @@ constexpr std::array<int, 15> Keys = {VK_BACK, VK_RETURN, VK_ESCAPE, VK_END,  VK
                                       VK_LEFT, VK_RIGHT,  VK_UP,     VK_DOWN, VK_DELETE,
                                       'C',     'V',       VK_TAB,    'A',     VK_SPACE};
 constexpr std::array<const char*, 5> Faces = {"Arial", "Courier New", "MS Gothic", "No such face", ""};
-constexpr std::array<const char*, 6> Faults = {"window",          "bitmap", "buffer",
-                                               "display-context", "memory", "font"};
+constexpr std::array<const char*, 7> Faults = {"window",         "bitmap",    "buffer", "display-context",
+                                               "device-context", "rich-edit", "font"};
 constexpr std::array<UINT, 3> CodePages = {1252, 932, 949};
 
 void Require(bool bHolds, const char* pszLaw) {
