@@ -27,7 +27,7 @@ class CTextStage {
     }
 
     void Attributes(int nTexts);
-    void Session(int nObjects);
+    void Session(int nObjects, int nInFront, const std::string& suffix);
 
   private:
     std::unique_ptr<CTextNode> Create(int i);
@@ -106,12 +106,14 @@ void CTextStage::FillWithPictures(int nObjects) {
     }
 }
 
-// The text lies in the middle of the order, so that its place has to be found again.
-void CTextStage::Session(int nObjects) {
-    FillWithPictures(nObjects / 2);
+// With so many of the objects in front of the text: its place among them has to be found again.
+void CTextStage::Session(int nObjects, int nInFront, const std::string& suffix) {
+    m_stage.NewPage(m_stage.PageWidth(), m_stage.PageHeight());
+    m_stage.SetViewSize(page::Width, page::Height);
+    FillWithPictures(nObjects - nInFront);
     CImgNode* const pText = m_stage.AddText("title", "A title", page::PressX, page::PressY);
     Check(pText != nullptr, "the text");
-    FillWithPictures(nObjects - nObjects / 2);
+    FillWithPictures(nInFront);
     m_stage.RecomposeAll();
     m_stage.Select({"title"});
     const CPoint point(page::PressX + 5, page::PressY + 5);
@@ -133,8 +135,8 @@ void CTextStage::Session(int nObjects) {
             committed.push_back(dEnd - dOpen);
         }
     }
-    measure::Figure(Peer, "edit_open", nObjects, opened);
-    measure::Figure(Peer, "edit_commit", nObjects, committed);
+    measure::Figure(Peer, "edit_open" + suffix, nObjects, opened);
+    measure::Figure(Peer, "edit_commit" + suffix, nObjects, committed);
 }
 
 } // namespace
@@ -148,7 +150,8 @@ int main(int argc, char** argv) {
     if (work == "attributes") {
         stage.Attributes(n);
     } else {
-        stage.Session(n);
+        stage.Session(n, 0, "");
+        stage.Session(n, n / 2, "_middle");
     }
     return 0;
 }
