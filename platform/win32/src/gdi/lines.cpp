@@ -96,8 +96,14 @@ struct Range {
 
 static void WalkThin(const Canvas& canvas, const Stroke& stroke, const Course& course, Range along,
                      Range across, unsigned phase) {
+    // Where in the pattern the next pixel stands; the first one's place alone takes a division.
+    unsigned place = DotPeriod;
     Walk(course, course.length, along.low, along.high, [&](LONG a, LONG c, LONGLONG step) {
-        const bool gap = stroke.dotted && (phase + static_cast<ULONGLONG>(step)) % DotPeriod >= DotLength;
+        if (place == DotPeriod) {
+            place = static_cast<unsigned>((phase + static_cast<ULONGLONG>(step)) % DotPeriod);
+        }
+        const bool gap = stroke.dotted && place >= DotLength;
+        place = place + 1 == DotPeriod ? 0 : place + 1;
         if (across.Holds(c) && (!gap || stroke.gapsPainted)) {
             Plot(course.steep ? canvas.At(c, a) : canvas.At(a, c), gap ? stroke.gapInk : stroke.ink,
                  stroke.rop);
