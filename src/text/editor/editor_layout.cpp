@@ -21,7 +21,6 @@ CTextLayout CInplaceEditor::Measure() const { return CTextLayout(m_lines, Format
 
 int CInplaceEditor::m_fnRegenerateFont() {
     m_font.DeleteObject();
-    m_lines.ForgetWidths();
     const int nHeight = -std::max(m_nFontSize, -std::numeric_limits<int>::max());
     if (!m_font.CreateFont(nHeight, 0, 0, 0, m_nBold ? BoldWeight : NormalWeight,
                            static_cast<BYTE>(m_nItalic), static_cast<BYTE>(m_nUnderline), 0, DefaultCharSet,

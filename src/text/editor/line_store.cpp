@@ -63,12 +63,11 @@ int CLineStore::InsertText(int nAfter, const CString& strText) {
 
 // A null place is before all lines.
 int CLineStore::InsertPieces(POSITION after, const CString& strText) try {
-    m_nWidest = NotMeasured;
     int nFirst = 0;
     for (int nEnd = 0; nEnd >= 0; nFirst = nEnd + 1) {
         nEnd = strText.Find('\n', nFirst);
         const CString strPiece = nEnd < 0 ? strText.Mid(nFirst) : strText.Mid(nFirst, nEnd - nFirst);
-        after = after ? m_lines.InsertAfter(after, {strPiece}) : m_lines.AddHead({strPiece});
+        after = after ? m_lines.InsertAfter(after, strPiece) : m_lines.AddHead(strPiece);
         if (!after) {
             return 0;
         }
@@ -91,21 +90,7 @@ int CLineStore::ReplaceLine(int nLine, const CString& strText) {
 
 void CLineStore::RemoveLine(int nLine) { RemoveLines(nLine, 1); }
 
-void CLineStore::RemoveAll() {
-    m_lines.RemoveAll();
-    m_nWidest = NotMeasured;
-}
-
-void CLineStore::ForgetWidths() const {
-    for (POSITION position = Begin(); position;) {
-        Mutable().GetNext(position).nWidth = NotMeasured;
-    }
-    m_nWidest = NotMeasured;
-    m_nCodePage = GetACP();
-}
-
 void CLineStore::RemoveLines(int nFirst, int nCount) {
-    m_nWidest = NotMeasured;
     POSITION position = PositionOf(nFirst);
     for (; position && nCount > 0; --nCount) {
         POSITION next = position;

@@ -25,57 +25,24 @@ class CLineStore {
     void RemoveLine(int nLine);
     /// The lines from `nFirst` on, `nCount` of them.
     void RemoveLines(int nFirst, int nCount);
-    void RemoveAll();
-
-    /// The widest line's width, 0 for no lines. `measure` tells a line's width; it is asked once a line,
-    /// until the code page is another or the widths are to be forgotten.
-    template <class Measure>
-    int Widest(Measure&& measure) const;
-    /// The lines' font has changed.
-    void ForgetWidths() const;
+    void RemoveAll() { m_lines.RemoveAll(); }
 
     /// Walking down or up: a place, null past the ends; Next and Prev answer its line and step on.
     POSITION Begin() const { return m_lines.GetHeadPosition(); }
     POSITION Last() const { return m_lines.GetTailPosition(); }
     POSITION PositionOf(int nLine) const;
-    const CString& Next(POSITION& position) const { return Mutable().GetNext(position).strText; }
-    const CString& Prev(POSITION& position) const { return Mutable().GetPrev(position).strText; }
+    const CString& Next(POSITION& position) const { return Mutable().GetNext(position); }
+    const CString& Prev(POSITION& position) const { return Mutable().GetPrev(position); }
 
   private:
-    static constexpr int NotMeasured = -1;
-
-    struct Line {
-        CString strText;
-        int nWidth = NotMeasured;
-    };
-    using CLines = CList<Line, const Line&>;
+    using CLines = CList<CString, const CString&>;
 
     // The list's own walk over a constant list copies each element.
     CLines& Mutable() const { return const_cast<CLines&>(m_lines); }
     int InsertPieces(POSITION after, const CString& strText);
 
     CLines m_lines{10};
-    mutable int m_nWidest = NotMeasured;
-    mutable UINT m_nCodePage = 0; ///< under which the widths were measured
 };
-
-template <class Measure>
-int CLineStore::Widest(Measure&& measure) const {
-    if (m_nCodePage != GetACP()) {
-        ForgetWidths();
-    }
-    if (m_nWidest == NotMeasured) {
-        m_nWidest = 0;
-        for (POSITION position = Begin(); position;) {
-            Line& line = Mutable().GetNext(position);
-            if (line.nWidth == NotMeasured) {
-                line.nWidth = measure(static_cast<const CString&>(line.strText));
-            }
-            m_nWidest = m_nWidest < line.nWidth ? line.nWidth : m_nWidest;
-        }
-    }
-    return m_nWidest;
-}
 
 /// The text without the blanks (byte 32) at both ends; other white space stays.
 CString TrimmedBlanks(const CString& strText);

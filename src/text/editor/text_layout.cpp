@@ -55,8 +55,13 @@ CSize CTextLayout::LineSize(const CString& strLine) const {
 }
 
 CSize CTextLayout::TextSize() const {
-    const auto width = [this](const CString& strLine) { return static_cast<int>(LineSize(strLine).cx); };
-    return CSize(m_hDC ? m_lines.Widest(width) : 0, HeightOf(m_lines.GetCount()));
+    LONG nWidest = 0;
+    if (m_hDC) {
+        for (POSITION position = m_lines.Begin(); position;) {
+            nWidest = std::max(nWidest, LineSize(m_lines.Next(position)).cx);
+        }
+    }
+    return CSize(nWidest, HeightOf(m_lines.GetCount()));
 }
 
 CRect CTextLayout::BoundAt(const CPoint& ptAnchor) const {
@@ -80,6 +85,17 @@ CRect CTextLayout::Area() const {
     const bool bWidthPlays = m_nAlign == text_align::Center || m_nAlign == text_align::Right;
     const CSize size = bWidthPlays ? TextSize() : CSize(0, HeightOf(m_lines.GetCount()));
     return CRect(CPoint(LeadSpace(), 1), size);
+}
+
+// The window is a pixel wider than the text with its margins. Wider than a window can be, it has to be
+// measured.
+CRect CTextLayout::AreaIn(int nWindowWidth) const {
+    constexpr int LargestWindow = 32767;
+    if (nWindowWidth >= LargestWindow) {
+        return Area();
+    }
+    return CRect(CPoint(LeadSpace(), 1),
+                 CSize(nWindowWidth - 1 - 2 * LeadSpace(), HeightOf(m_lines.GetCount())));
 }
 
 CRect CTextLayout::LineRect(const CRect& rcArea, int nLine, const CString& strLine) const {

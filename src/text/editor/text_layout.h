@@ -36,13 +36,16 @@ class CTextLayout {
     int HeightOf(int nLines) const;
     /// An empty line is 0 wide and as high as any.
     CSize LineSize(const CString& strLine) const;
-    /// The widest line by the sum of the heights. Measures every line that it has not measured before.
+    /// The widest line by the sum of the heights. Measures every line.
     CSize TextSize() const;
     /// The text's rectangle around an anchor, in the anchor's coordinates, with its margins; without lines
     /// one line high, 0 wide and without margins.
     CRect BoundAt(const CPoint& ptAnchor) const;
-    /// The lines without the margins. When they stand left, only the corner and the height are told.
+    /// The lines without the margins. Measures every line unless they stand left, where only the corner and
+    /// the height are told.
     CRect Area() const;
+    /// The same in a window that has the text's size, without measuring; `nWindowWidth` is the window's.
+    CRect AreaIn(int nWindowWidth) const;
     /// The rectangle of the line numbered `nLine` within the area.
     CRect LineRect(const CRect& rcArea, int nLine, const CString& strLine) const;
     /// The pixels of a span of the line at `rcLine`, with half a blank's width at an end at which the span

@@ -82,6 +82,7 @@ class CFontInstance {
     void MeasureLine();
     void MeasureBars(const FaceMetrics& metrics);
     void MeasureBytes();
+    void MeasureTwoBytes();
     Source SourceOf(WCHAR code) const;
     int AdvanceOf(WCHAR code) const;
     int PairAdvance(WORD bytes, WCHAR code) const;
@@ -99,6 +100,9 @@ class CFontInstance {
     Bar m_strikeOut{};
     int m_widestAdvance = 0;
     std::array<int, 256> m_advances{};
+    // What each two bytes, the first one low, advance together; empty where that may exceed 16 bits or bytes
+    // can be halves of characters.
+    std::vector<std::uint16_t> m_twoAdvances;
     mutable std::unordered_map<WORD, int> m_pairAdvances;
     std::array<std::unique_ptr<Glyph>, 256> m_pictures;
     std::unordered_map<WORD, Glyph> m_pairPictures;
