@@ -21,6 +21,7 @@ CTextLayout CInplaceEditor::Measure() const { return CTextLayout(m_lines, Format
 
 int CInplaceEditor::m_fnRegenerateFont() {
     m_font.DeleteObject();
+    m_bWindowFits = false;
     const int nHeight = -std::max(m_nFontSize, -std::numeric_limits<int>::max());
     if (!m_font.CreateFont(nHeight, 0, 0, 0, m_nBold ? BoldWeight : NormalWeight,
                            static_cast<BYTE>(m_nItalic), static_cast<BYTE>(m_nUnderline), 0, DefaultCharSet,
@@ -40,6 +41,7 @@ int CInplaceEditor::m_fnGetTextBoundRect(CRect& rcBound) {
 void CInplaceEditor::m_fnUpdateWindowPos() {
     CRect rcWindow;
     m_fnGetTextBoundRect(rcWindow);
+    const bool bMeasured = rcWindow.Height() > 2; // Unmeasured, it has its margins alone.
     rcWindow.right += 1;
     rcWindow.bottom += 1;
     if (!m_hWnd) {
@@ -47,6 +49,7 @@ void CInplaceEditor::m_fnUpdateWindowPos() {
     }
     CRect rcChanged = RectInParent();
     MoveWindow(rcWindow, FALSE);
+    m_bWindowFits = bMeasured;
     if (IsWindowVisible()) {
         rcChanged |= rcWindow;
         m_pParentWnd->InvalidateRect(rcChanged);

@@ -295,6 +295,7 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     TextPosition m_savedCaret;
     int m_nSavedEnabled = 0;
     CString m_strStarting;
+    bool m_bWindowFits = false; ///< whether the window has the size of the text as it is now
     bool m_bCaretDrawn = false; ///< whether the caret's toggled pixels are on the window
     CRect m_rcDrawn;            ///< where they are, client pixels
 };
