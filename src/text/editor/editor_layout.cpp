@@ -21,7 +21,7 @@ CTextLayout CInplaceEditor::Measure() const { return CTextLayout(m_lines, Format
 
 int CInplaceEditor::m_fnRegenerateFont() {
     m_font.DeleteObject();
-    m_bWindowFits = false;
+    m_nFittingWidth = 0;
     const int nHeight = -std::max(m_nFontSize, -std::numeric_limits<int>::max());
     if (!m_font.CreateFont(nHeight, 0, 0, 0, m_nBold ? BoldWeight : NormalWeight,
                            static_cast<BYTE>(m_nItalic), static_cast<BYTE>(m_nUnderline), 0, DefaultCharSet,
@@ -38,6 +38,16 @@ int CInplaceEditor::m_fnGetTextBoundRect(CRect& rcBound) {
     return 1;
 }
 
+// The widest line need not be sought in a window that was made for it.
+CRect CInplaceEditor::TextArea(const CTextLayout& layout) const {
+    CRect rcClient(0, 0, 0, 0);
+    if (m_nFittingWidth > 0 && m_hWnd) {
+        GetClientRect(rcClient);
+    }
+    const bool bFits = layout.LineHeight() > 0 && m_nFittingWidth > 0 && rcClient.Width() == m_nFittingWidth;
+    return bFits ? layout.AreaIn(rcClient.Width()) : layout.Area();
+}
+
 void CInplaceEditor::m_fnUpdateWindowPos() {
     CRect rcWindow;
     m_fnGetTextBoundRect(rcWindow);
@@ -49,7 +59,7 @@ void CInplaceEditor::m_fnUpdateWindowPos() {
     }
     CRect rcChanged = RectInParent();
     MoveWindow(rcWindow, FALSE);
-    m_bWindowFits = bMeasured;
+    m_nFittingWidth = bMeasured ? rcWindow.Width() : 0;
     if (IsWindowVisible()) {
         rcChanged |= rcWindow;
         m_pParentWnd->InvalidateRect(rcChanged);
@@ -113,7 +123,7 @@ int CInplaceEditor::m_fnGetLineBoundRect(int nLine, CRect& rcLine) {
         return 0;
     }
     const CTextLayout layout = Measure();
-    rcLine = layout.LineRect(layout.Area(), nLine, *pLine);
+    rcLine = layout.LineRect(TextArea(layout), nLine, *pLine);
     return 1;
 }
 

@@ -24,7 +24,7 @@ void CInplaceEditor::PaintLines(CDC& dc) {
     GetClientRect(rcClient);
     dc.GetClipBox(rcClip);
     const CTextLayout layout = Measure();
-    const CRect rcArea = m_bWindowFits ? layout.AreaIn(rcClient.Width()) : layout.Area();
+    const CRect rcArea = TextArea(layout);
     const int nSaved = dc.SaveDC();
     SelectTextFormat(dc, Format(), TA_LEFT | TA_TOP);
     const int nAbove = layout.LineHeight() > 0 ? (rcClip.top - rcArea.top) / layout.LineHeight() : 0;

@@ -151,7 +151,7 @@ void CInplaceEditor::m_fnReplaceSelectRange(CString& strText, int nRedraw) {
 }
 
 void CInplaceEditor::RedrawAfterChange(int nRedraw) {
-    m_bWindowFits = false;
+    m_nFittingWidth = 0;
     if (nRedraw == 1) {
         m_fnUpdateWindowPos();
         RepaintAllOnParent();

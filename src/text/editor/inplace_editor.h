@@ -229,6 +229,8 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
 
     // Layout.
     CTextLayout Measure() const;
+    /// The lines without margins, client pixels.
+    CRect TextArea(const CTextLayout& layout) const;
     TextFormat Format() const;
     void PaintLines(CDC& dc);
     void PaintLine(CDC& dc, const CTextLayout& layout, const CRect& rcLine, int nLine,
@@ -295,7 +297,8 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     TextPosition m_savedCaret;
     int m_nSavedEnabled = 0;
     CString m_strStarting;
-    bool m_bWindowFits = false; ///< whether the window has the size of the text as it is now
+    int m_nFittingWidth =
+        0; ///< the window's width for the text as it is now; 0 after changes it did not follow
     bool m_bCaretDrawn = false; ///< whether the caret's toggled pixels are on the window
     CRect m_rcDrawn;            ///< where they are, client pixels
 };
