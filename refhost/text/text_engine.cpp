@@ -30,8 +30,8 @@ void Record(const textCreate::textCreateParam& param) {
 }
 
 void Empty(textObject& object) {
-    CBufferPtr(std::exchange(object.m_hImage, 0));
-    CBufferPtr(std::exchange(object.m_hMask, 0));
+    const CBufferPtr image(std::exchange(object.m_hImage, 0));
+    const CBufferPtr mask(std::exchange(object.m_hMask, 0));
     object.m_ptOrigin = CPoint(0, 0);
     object.m_strText.Empty();
     object.m_strFontName.Empty();

@@ -1,15 +1,15 @@
 // Places and ranges in a text of lines.
 #pragma once
 
-#include <compare>
-
 /// A place between bytes: behind byte `nIndex` of the line, -1 being before its first byte.
 struct TextPosition {
     int nLine = 0;
     int nIndex = -1;
 
     friend bool operator==(const TextPosition&, const TextPosition&) = default;
-    friend std::strong_ordering operator<=>(const TextPosition&, const TextPosition&) = default;
+    friend constexpr bool operator<(const TextPosition& a, const TextPosition& b) {
+        return a.nLine != b.nLine ? a.nLine < b.nLine : a.nIndex < b.nIndex;
+    }
 };
 
 /// From `start` to `end`, in this order; it covers something when they differ.

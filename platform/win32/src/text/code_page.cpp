@@ -56,7 +56,8 @@ static void FillPairs(CodePage& page, iconv_t converter) {
     for (int lead = 0; lead < 256; ++lead) {
         for (int trail = 0x40; page.lead[static_cast<size_t>(lead)] && trail < 256; ++trail) {
             const char bytes[] = {static_cast<char>(lead), static_cast<char>(trail)};
-            page.pairs[static_cast<size_t>(lead * 256 + trail)] = Convert(converter, bytes, 2);
+            page.pairs[static_cast<size_t>(lead) * 256 + static_cast<size_t>(trail)] =
+                Convert(converter, bytes, 2);
         }
     }
 }

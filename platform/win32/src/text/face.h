@@ -25,8 +25,11 @@ struct Quad {
 
 /// A glyph's coverage: 0 to 255 a pixel. Places are relative to the pen and to the line's top.
 struct Glyph {
-    BYTE At(int x, int y) const { return coverage[static_cast<size_t>(y * width + x)]; }
-    void Set(int x, int y, BYTE value) { coverage[static_cast<size_t>(y * width + x)] = value; }
+    size_t PlaceOf(int x, int y) const {
+        return static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x);
+    }
+    BYTE At(int x, int y) const { return coverage[PlaceOf(x, y)]; }
+    void Set(int x, int y, BYTE value) { coverage[PlaceOf(x, y)] = value; }
 
     int left = 0;
     int top = 0;
