@@ -99,12 +99,7 @@ class CHandle {
         copy.m_pHolder = pHolder;
         return *this;
     }
-    ~CHandle() {
-        if (m_pHolder && --m_pHolder->nCount == 0) {
-            KILLER::Kill(m_pHolder->pRecord);
-            delete m_pHolder;
-        }
-    }
+    ~CHandle() { Release(m_pHolder); }
 
     /// The record, or null; it stays the handle's.
     TYPE* Get() const { return m_pHolder ? m_pHolder->pRecord : nullptr; }
@@ -116,6 +111,14 @@ class CHandle {
         TYPE* pRecord;
         int nCount;
     };
+
+    // Never inlined: with two copies in one function the compiler warns of a use that the count rules out.
+    [[gnu::noinline]] static void Release(Holder* pHolder) {
+        if (pHolder && --pHolder->nCount == 0) {
+            KILLER::Kill(pHolder->pRecord);
+            delete pHolder;
+        }
+    }
 
     Holder* m_pHolder = nullptr;
 };
