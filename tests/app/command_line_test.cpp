@@ -1,5 +1,7 @@
 #include "command_line.h"
 
+#include <unistd.h>
+
 #include <cstdio>
 #include <fstream>
 #include <initializer_list>
@@ -23,11 +25,11 @@ Outcome Call(std::initializer_list<const char*> words, const std::string& input 
     return {nStatus, out.str(), err.str()};
 }
 
-/// A file name of this test's own; the file goes with the object.
+/// A file name of this process's own, because tests run side by side; the file goes with the object.
 class [[nodiscard]] CTempFileScope {
   public:
     explicit CTempFileScope(const char* pszSuffix)
-        : m_name(testing::TempDir() + "pradix-command-line" + pszSuffix) {}
+        : m_name(testing::TempDir() + "pradix-command-line-" + std::to_string(getpid()) + pszSuffix) {}
     ~CTempFileScope() { std::remove(m_name.c_str()); }
     CTempFileScope(const CTempFileScope&) = delete;
     CTempFileScope& operator=(const CTempFileScope&) = delete;
