@@ -8,26 +8,6 @@
 
 namespace {
 
-using Operation = void (CToolOperations::*)();
-constexpr std::array<Operation, 16> ArrangeOperations = {
-    &CToolOperations::m_fnBringForward,
-    &CToolOperations::m_fnSendBackward,
-    &CToolOperations::m_fnBringToFront,
-    &CToolOperations::m_fnSendToBack,
-    &CToolOperations::m_fnAlignLeft,
-    &CToolOperations::m_fnAlignTop,
-    &CToolOperations::m_fnAlignRight,
-    &CToolOperations::m_fnAlignBottom,
-    &CToolOperations::m_fnAlignMiddle,
-    &CToolOperations::m_fnAlignCenter,
-    &CToolOperations::m_fnAlignCenters,
-    &CToolOperations::m_fnDistributeVertically,
-    &CToolOperations::m_fnDistributeHorizontally,
-    &CToolOperations::m_fnSameWidth,
-    &CToolOperations::m_fnSameHeight,
-    &CToolOperations::m_fnSameSize,
-};
-
 constexpr std::array<CRect, 9> Places = {{
     CRect(INT_MIN, INT_MIN, INT_MIN + 1, INT_MIN + 1),
     CRect(INT_MIN, 0, INT_MIN + 100, 50),

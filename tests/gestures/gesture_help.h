@@ -1,6 +1,7 @@
 // What the tests of gestures share: a stage with a tool in hand, spoken of in a user's words.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -17,6 +18,27 @@ void PrintTo(const CPoint& point, std::ostream* pOut);
 using Names = std::vector<std::string>;
 /// Rows of the trace, one text each: where, what, numbers.
 using Steps = std::vector<std::string>;
+
+/// The arranging operations; the first two put the excluded node in front, the first four change the order.
+using Operation = void (CToolOperations::*)();
+inline constexpr std::array<Operation, 16> ArrangeOperations = {
+    &CToolOperations::m_fnBringForward,
+    &CToolOperations::m_fnBringToFront,
+    &CToolOperations::m_fnSendBackward,
+    &CToolOperations::m_fnSendToBack,
+    &CToolOperations::m_fnAlignLeft,
+    &CToolOperations::m_fnAlignTop,
+    &CToolOperations::m_fnAlignRight,
+    &CToolOperations::m_fnAlignBottom,
+    &CToolOperations::m_fnAlignMiddle,
+    &CToolOperations::m_fnAlignCenter,
+    &CToolOperations::m_fnAlignCenters,
+    &CToolOperations::m_fnDistributeVertically,
+    &CToolOperations::m_fnDistributeHorizontally,
+    &CToolOperations::m_fnSameWidth,
+    &CToolOperations::m_fnSameHeight,
+    &CToolOperations::m_fnSameSize,
+};
 
 /// A page of 400 by 300 and the plain select tool. Every operation acts or answers; tests assert.
 class CGestureStage {

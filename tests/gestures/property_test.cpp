@@ -24,25 +24,6 @@ constexpr std::array<int, 4> Arrows = {VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN};
 constexpr std::array<const char*, 5> ToolClasses = {"CSelectTool", "CObjectPageTool", "CDisplayPageTool",
                                                     "CImageShadowTool", "CFrameTool"};
 
-using Operation = void (CToolOperations::*)();
-constexpr std::array<Operation, 16> ArrangeOperations = {
-    &CToolOperations::m_fnBringForward,
-    &CToolOperations::m_fnBringToFront,
-    &CToolOperations::m_fnSendBackward,
-    &CToolOperations::m_fnSendToBack,
-    &CToolOperations::m_fnAlignLeft,
-    &CToolOperations::m_fnAlignTop,
-    &CToolOperations::m_fnAlignRight,
-    &CToolOperations::m_fnAlignBottom,
-    &CToolOperations::m_fnAlignMiddle,
-    &CToolOperations::m_fnAlignCenter,
-    &CToolOperations::m_fnAlignCenters,
-    &CToolOperations::m_fnDistributeVertically,
-    &CToolOperations::m_fnDistributeHorizontally,
-    &CToolOperations::m_fnSameWidth,
-    &CToolOperations::m_fnSameHeight,
-    &CToolOperations::m_fnSameSize,
-};
 constexpr std::size_t ForwardOperations = 2; ///< the first ones put the excluded node in front
 constexpr std::size_t StackingOperations = 4;
 

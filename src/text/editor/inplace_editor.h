@@ -297,8 +297,7 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     TextPosition m_savedCaret;
     int m_nSavedEnabled = 0;
     CString m_strStarting;
-    int m_nFittingWidth =
-        0; ///< the window's width for the text as it is now; 0 after changes it did not follow
+    int m_nFittingWidth = 0;    ///< the window's width while it has the text's size, else 0
     bool m_bCaretDrawn = false; ///< whether the caret's toggled pixels are on the window
     CRect m_rcDrawn;            ///< where they are, client pixels
 };
