@@ -2,12 +2,12 @@
 
 #include <array>
 
-#include "frames/frame_tool.h"
 #include "host/kinds.h"
-#include "shadows/shadow_tool.h"
+#include "host/tool_ids.h"
 #include "tools/basic_object_tool.h"
 #include "tools/display_tool.h"
-#include "tools/tool_ids.h"
+#include "tools/frame_tool.h"
+#include "tools/shadow_tool.h"
 
 namespace {
 

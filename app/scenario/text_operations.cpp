@@ -3,10 +3,10 @@
 #include <optional>
 
 #include "host/kinds.h"
+#include "host/tool_ids.h"
 #include "image/node_host.h"
 #include "scenario/error.h"
-#include "text/text_tool.h"
-#include "tools/tool_ids.h"
+#include "text/tools/text_tool.h"
 
 namespace text_operations {
 

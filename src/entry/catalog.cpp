@@ -1,10 +1,10 @@
 #include "entry/catalog.h"
 
-#include "frames/frame_tool.h"
-#include "shadows/image_shadow_tool.h"
-#include "text/text_tool.h"
+#include "text/tools/text_tool.h"
 #include "tools/combo_tools.h"
 #include "tools/display_tool.h"
+#include "tools/frame_tool.h"
+#include "tools/image_shadow_tool.h"
 #include "tools/object_page_tool.h"
 #include "tools/select_tool.h"
 

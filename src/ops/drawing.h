@@ -4,7 +4,7 @@
 #include <afxwin.h>
 
 #include "ops/canvas.h"
-#include "tools/handles.h"
+#include "ops/handles.h"
 
 /// Selects a GDI object into a device context for as long as it lives.
 class [[nodiscard]] CSelectObjectScope {

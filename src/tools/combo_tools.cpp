@@ -1,9 +1,9 @@
 #include "tools/combo_tools.h"
 
 #include "host/panels.h"
+#include "host/tool_ids.h"
 #include "ops/bus.h"
 #include "tools/identity_tables.h"
-#include "tools/tool_ids.h"
 
 int CTextComboTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
     return OwnKindOrBase<CTextShadowTool>(*this, {EditCategoryId, tool_kind::TextCombo}, category, nKind,

@@ -1,7 +1,7 @@
 // The composite tools: a shadow tool with text and display in one.
 #pragma once
 
-#include "shadows/text_shadow_tool.h"
+#include "tools/text_shadow_tool.h"
 
 /// Kind 13 of the edit category.
 class CTextComboTool : public CTextShadowTool {

@@ -1,9 +1,9 @@
 #include "tools/display_tool.h"
 
 #include "host/panels.h"
+#include "host/tool_ids.h"
 #include "ops/bus.h"
 #include "tools/identity_tables.h"
-#include "tools/tool_ids.h"
 
 int CDisplayTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
     return OwnKindOrBase<CObjectTool>(*this, {CategoryId, tool_kind::Display}, category, nKind, pResult,

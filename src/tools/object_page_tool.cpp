@@ -1,7 +1,7 @@
 #include "tools/object_page_tool.h"
 
+#include "host/tool_ids.h"
 #include "tools/identity_tables.h"
-#include "tools/tool_ids.h"
 
 int CObjectPageTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
     return OwnKindOrBase<CBasicObjectTool>(*this, {CategoryId, tool_kind::ObjectPage}, category, nKind,

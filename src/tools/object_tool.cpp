@@ -1,8 +1,8 @@
 #include "tools/object_tool.h"
 
+#include "host/tool_ids.h"
 #include "ops/drawing.h"
 #include "tools/identity_tables.h"
-#include "tools/tool_ids.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // The resize drag: start, steps, finish, cancel.
 #include "ops/drawing.h"
 #include "ops/refresh.h"
-#include "text/text_attributes.h"
+#include "ops/resize_geometry.h"
+#include "text/object/text_attributes.h"
 #include "tools/object_tool.h"
-#include "tools/resize_geometry.h"
 #include "undo/recorder.h"
 #include "undo/resize_changed_event.h"
 

@@ -1,7 +1,7 @@
 #include "tools/select_tool.h"
 
+#include "host/tool_ids.h"
 #include "tools/identity_tables.h"
-#include "tools/tool_ids.h"
 
 int CSelectTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
     return OwnKindOrBase<CObjectTool>(*this, {CategoryId, tool_kind::Select}, category, nKind, pResult,

@@ -2,8 +2,8 @@
 
 #include <cstdlib>
 
+#include "host/tool_ids.h"
 #include "tools/identity_tables.h"
-#include "tools/tool_ids.h"
 
 namespace {
 

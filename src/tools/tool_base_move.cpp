@@ -2,9 +2,9 @@
 #include <algorithm>
 #include <limits>
 
+#include "ops/groups.h"
 #include "ops/refresh.h"
 #include "ops/saturate.h"
-#include "tools/object_copies.h"
 #include "tools/tool_base.h"
 #include "undo/recorder.h"
 

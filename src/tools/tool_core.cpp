@@ -1,10 +1,10 @@
 #include "tools/tool_core.h"
 
 #include "host/panels.h"
+#include "host/tool_ids.h"
 #include "ops/bus.h"
-#include "tools/cursors.h"
+#include "ops/cursors.h"
 #include "tools/identity_tables.h"
-#include "tools/tool_ids.h"
 
 namespace {
 

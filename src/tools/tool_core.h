@@ -4,7 +4,7 @@
 
 #include "ops/axis.h"
 #include "ops/canvas.h"
-#include "tools/handles.h"
+#include "ops/handles.h"
 #include "tools/tool_listener.h"
 
 class CObjectTool;

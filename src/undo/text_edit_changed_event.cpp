@@ -3,7 +3,7 @@
 #include "ops/canvas.h"
 #include "ops/refresh.h"
 #include "ops/saturate.h"
-#include "text/text_style.h"
+#include "text/object/text_style.h"
 #include "tools/object_tool.h"
 
 IMPLEMENT_DYNCREATE(CTextEditChangedUndoEvent, CUndoEvent)

@@ -3,11 +3,11 @@
 #include <set>
 
 #include "desk/guid_text.h"
-#include "frames/frame_tool.h"
 #include "module_help.h"
-#include "shadows/shadow_tool.h"
 #include "tools/basic_object_tool.h"
 #include "tools/display_tool.h"
+#include "tools/frame_tool.h"
+#include "tools/shadow_tool.h"
 
 namespace {
 

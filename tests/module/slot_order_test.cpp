@@ -7,17 +7,17 @@
 
 #include <gtest/gtest.h>
 
-#include "frames/frame_tool.h"
 #include "host/document_service.h"
 #include "host/notifications.h"
 #include "host/object_clipboard.h"
 #include "host/panels.h"
 #include "host/tool_category.h"
 #include "host/undo.h"
-#include "shadows/shadow_tool.h"
-#include "text/text_tool.h"
+#include "text/tools/text_tool.h"
 #include "tools/basic_object_tool.h"
 #include "tools/display_tool.h"
+#include "tools/frame_tool.h"
+#include "tools/shadow_tool.h"
 #include "undo/sel_changed_event.h"
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include "editor_binding.h"
 #include "platform/faults.h"
-#include "text/text_tool.h"
+#include "text/tools/text_tool.h"
 #include "text_help.h"
 
 namespace {

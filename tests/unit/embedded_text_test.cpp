@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "host/text_node.h"
-#include "text/embedded_text_tool.h"
+#include "text/tools/embedded_text_tool.h"
 #include "tool_desk.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "tools/resize_geometry.h"
+#include "ops/resize_geometry.h"
 
 #include <cmath>
 

@@ -5,13 +5,13 @@
 
 #include "bus/bus_object.h"
 #include "desk/guid_text.h"
-#include "frames/frame_tool.h"
 #include "host/document_service.h"
-#include "shadows/shadow_tool.h"
+#include "ops/handles.h"
 #include "tools/basic_object_tool.h"
 #include "tools/display_tool.h"
-#include "tools/handles.h"
+#include "tools/frame_tool.h"
 #include "tools/object_tool.h"
+#include "tools/shadow_tool.h"
 
 namespace {
 

@@ -1,0 +1,129 @@
+// Resizing an object with its companions, and the three size matchings. Rectangles are document units.
+#include <algorithm>
+
+#include "ops/objects/arrange_scope.h"
+#include "ops/saturate.h"
+#include "text/object/text_attributes.h"
+#include "tools/tool_core.h"
+
+namespace {
+
+/// How a rectangle's box is mapped onto another: a corner, and a factor for each axis.
+class CBoxMap {
+  public:
+    CBoxMap(const CRect& rcFrom, const CRect& rcTo)
+        : m_rcFrom(rcFrom), m_ptTo(rcTo.TopLeft()), m_dX(Factor(Width(rcTo), Width(rcFrom))),
+          m_dY(Factor(Height(rcTo), Height(rcFrom))) {}
+
+    /// Offsets and sizes are each truncated.
+    CRect Map(const CRect& rc) const {
+        const long long nLeft =
+            m_ptTo.x + static_cast<long long>(Scaled(Offset(rc.left, m_rcFrom.left), m_dX));
+        const long long nTop = m_ptTo.y + static_cast<long long>(Scaled(Offset(rc.top, m_rcFrom.top), m_dY));
+        return CRect(Saturated(nLeft), Saturated(nTop), Saturated(nLeft + Scaled(Width(rc), m_dX)),
+                     Saturated(nTop + Scaled(Height(rc), m_dY)));
+    }
+
+  private:
+    static double Width(const CRect& rc) { return Offset(rc.right, rc.left); }
+    static double Height(const CRect& rc) { return Offset(rc.bottom, rc.top); }
+    static double Offset(int nTo, int nFrom) { return static_cast<double>(nTo) - nFrom; }
+    static long long Scaled(double dLength, double dFactor) { return Truncated(dLength * dFactor); }
+    // A box without extent has no factor; what lies in it keeps its size.
+    static double Factor(double dTo, double dFrom) { return dFrom != 0 ? dTo / dFrom : 1.0; }
+
+    CRect m_rcFrom;
+    CPoint m_ptTo;
+    double m_dX;
+    double m_dY;
+};
+
+CSize ExtentOf(const CRect& rc) {
+    return CSize(Saturated(static_cast<long long>(rc.right) - rc.left),
+                 Saturated(static_cast<long long>(rc.bottom) - rc.top));
+}
+
+// The picture with its own proportions, as large as it fits, in the middle of the rectangle.
+CRect FittedIn(const CRect& rc, const CImgNode& node) {
+    if (node.m_nKeepProportions != 1 || node.m_nPictureWidth <= 0 || node.m_nPictureHeight <= 0) {
+        return rc;
+    }
+    const CSize room = ExtentOf(rc);
+    const double dFactorX = static_cast<double>(room.cx) / node.m_nPictureWidth;
+    const double dFactorY = static_cast<double>(room.cy) / node.m_nPictureHeight;
+    const CSize size = dFactorX >= dFactorY ? CSize(Truncated(node.m_nPictureWidth * dFactorY), room.cy)
+                                            : CSize(room.cx, Truncated(node.m_nPictureHeight * dFactorX));
+    return CRect(CPoint(rc.left + (room.cx - size.cx) / 2, rc.top + (room.cy - size.cy) / 2), size);
+}
+
+// A framed object: frame and picture scale together, so that each keeps its place within the whole.
+void ResizeFramed(CImgNode& node, const CRect& rcTarget) {
+    CRect rcWhole;
+    rcWhole.UnionRect(&node.m_rcFrame, &node.m_rcPlaceHolder);
+    const CBoxMap map(rcWhole, rcTarget);
+    const CRect rcFrame = map.Map(node.m_rcFrame);
+    node.m_fnResize(FittedIn(map.Map(node.m_rcPlaceHolder), node));
+    node.m_pFrameNode->m_fnResize(rcFrame);
+    if (node.m_nFrameFollows == 1) {
+        node.m_rcFrame = rcFrame;
+        node.m_rcPlaceHolder = rcFrame;
+    }
+}
+
+} // namespace
+
+int CToolCore::m_fnResizeObject(CImgNode* pNode, const CRect& rcTarget) {
+    if (!pNode) {
+        return 1;
+    }
+    if (pNode->IsShadowNode() || pNode->IsFrameNode()) {
+        return 0;
+    }
+    if (CTextNode* pText = AsText(pNode)) {
+        return ResizeText(*pText, rcTarget);
+    }
+    const bool bShadowed = pNode->m_pShadowNode != nullptr;
+    if (pNode->m_pFrameNode) {
+        ResizeFramed(*pNode, rcTarget);
+    } else {
+        pNode->m_fnResize(rcTarget);
+    }
+    pNode->m_fnAdjustImageNodeBuf(0, 0);
+    if (bShadowed) {
+        m_fnRegenerateShadow(pNode);
+    }
+    return 1;
+}
+
+// Left and top edges stay; what is matched takes the greatest extent of all selected objects.
+void CToolCore::MatchSizes(bool bWidth, bool bHeight) {
+    CCanvas canvas(*this);
+    if (!canvas) {
+        return;
+    }
+    CArrangeScope arrange(canvas, *this);
+    CNodeRefList nodes;
+    m_fnCopySelection(canvas, nodes);
+    CSize greatest(0, 0);
+    for (POSITION position = nodes.GetHeadPosition(); position;) {
+        const CSize size = ExtentOf(nodes.GetNext(position)->m_fnGetBoundRectWithFrame());
+        greatest = CSize(std::max(greatest.cx, size.cx), std::max(greatest.cy, size.cy));
+    }
+    for (POSITION position = nodes.GetHeadPosition(); position;) {
+        CImgNode* pNode = nodes.GetNext(position);
+        CRect rc = pNode->m_fnGetBoundRectWithFrame();
+        if (bWidth) {
+            rc.right = Saturated(static_cast<long long>(rc.left) + greatest.cx);
+        }
+        if (bHeight) {
+            rc.bottom = Saturated(static_cast<long long>(rc.top) + greatest.cy);
+        }
+        m_fnResizeObject(pNode, rc);
+    }
+}
+
+void CToolCore::m_fnSameWidth() { MatchSizes(true, false); }
+
+void CToolCore::m_fnSameHeight() { MatchSizes(false, true); }
+
+void CToolCore::m_fnSameSize() { MatchSizes(true, true); }

@@ -1,0 +1,44 @@
+// A text with its attributes, as text objects are rebuilt from them.
+#pragma once
+
+#include <afxwin.h>
+
+#include "host/text_node.h"
+#include "text/object/text_style.h"
+
+/// Size in pixels at full view scale, alignment an index, style the bits of text_style.
+struct TextAttributes {
+    CString strFontName;
+    int nPixelSize = 0;
+    int nAlignment = text_align::Left;
+    int nStyle = 0;
+    COLORREF crText = 0;
+};
+
+/// The node as a text object; null when it is none.
+CTextNode* AsText(CImgNode* pNode);
+CString TextOf(const CTextNode& node);
+/// Reads the face name. False, the name being empty, when it cannot be read.
+bool ReadFontName(const CTextNode& node, CString& strName);
+/// What the object was made from. False when its font name cannot be read.
+bool ReadAttributes(const CTextNode& node, TextAttributes& attributes);
+
+CSize SizeOf(const CImgNode& node);
+CPoint CornerOf(const CImgNode& node);
+/// Moves the node alone so that its top-left is at the point (document units).
+void MoveCornerTo(CImgNode& node, CPoint ptCorner);
+/// Brings the width back to what it was before an effect was drawn, the height scaling with it. Nothing when
+/// the size is the same or a width is 0.
+void KeepWidth(CImgNode& node, CSize before);
+/// Takes over the other's effect and draws it; the width stays what it was.
+void CopyEffect(CTextNode& node, const CTextNode& other);
+/// Brightness, contrast and transparency.
+struct DisplayValues {
+    int nBrightness;
+    int nContrast;
+    int nTransparency;
+};
+DisplayValues DisplayValuesOf(const CImgNode& node);
+/// False when the node does not take them.
+bool SetDisplayValues(CImgNode& node, const DisplayValues& values);
+bool CopyDisplayValues(CImgNode& node, const CImgNode& other);

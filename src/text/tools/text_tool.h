@@ -1,0 +1,96 @@
+// The tool that writes text on the page: it sets attributes, and opens new and existing texts in an editor on
+// the canvas.
+#pragma once
+
+#include <memory>
+
+#include "frames/frame_place.h"
+#include "ops/refresh.h"
+#include "text/editor/inplace_editor.h"
+#include "text/tools/text_tool_base.h"
+
+/// Kind 23.
+class CTextTool : public CTextToolBase, public IInplaceEditorNotify, public ITextEditEntry {
+  public:
+    ~CTextTool() override;
+
+    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
+    int QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) override;
+    void OnNodeResized(CImgNode* pNode) override;
+    const GUID& GetToolClassId() override;
+    const GUID& GetToolGroupId() override;
+    int GetPanelKind() override;
+
+    /// 53. Opens the text object in the editor with the caret at the point (client pixels). 1, or 0 for
+    /// another object, for a companion, while an editor is open and when none can be made; then the page
+    /// stays as it is.
+    virtual int EditTextNode(CImgNode* pNode, int nX, int nY);
+
+    int OnToolActivate(CListenerObject* pOther, int nActivate, int nRedraw) override;
+    int OnLButtonDblClk(UINT nFlags, CPoint point) override;
+    int OnLButtonDown(UINT nFlags, CPoint point) override;
+    int OnRButtonDown(UINT nFlags, CPoint point) override;
+
+    int SetFontName(const CString& strName) override;
+    int SetFontSize(int nPoints) override;
+    int SetAlignment(int nIndex) override;
+    int SetStyle(int nBits) override;
+    int SetColor(COLORREF crText) override;
+
+    void OnInputEnded(CInplaceEditor* pEditor) override;
+    int EditTextNode(CImgNode* pNode, const CPoint* pPoint) override;
+
+    bool IsEditing() const { return m_pEditor != nullptr; }
+
+  protected:
+    /// Ends an open editor's input, which commits it.
+    void EndEditing();
+
+  private:
+    // Attributes. The mask bits say which ones come from the tool.
+    enum Attribute : int { FontName = 1, Size = 2, Alignment = 4, Style = 8, Color = 16 };
+    void AttributeChanged(Attribute attribute);
+    bool SelectionDiffers(Attribute attribute);
+    bool Differs(const CTextNode& node, Attribute attribute) const;
+    void ApplyToEditor(Attribute attribute);
+    int ApplyAttributesToSelection(int nMask);
+    bool RebuildWith(CTextNode& node, int nMask);
+    void PushAttributes();
+    void ShowAttributes();
+
+    // Clicks.
+    void SelectByEndingClick(CPoint point);
+    int StartNewText(ITextAttributePanel& panel, CPoint point);
+    bool IsOnFrame(const CImgNode& node, CPoint point);
+
+    // The editing session.
+    int StartEditor(CPoint point, const CString& strText, int nVisible);
+    void ShowEditor();
+    CImgNode* PredecessorOf(CCanvas& canvas, CImgNode* pNode);
+    POSITION PlaceBehindAnchor(CImgNodeList& objects);
+    void TakeOffPage(CCanvas& canvas, CTextNode& node);
+    void PutBackOnPage(CCanvas& canvas, CTextNode& node);
+    int AbandonEdit(CCanvas& canvas, CTextNode& node, CRefresh& refresh);
+    void PlaceEditor(CCanvas& canvas, CTextNode& node, CPoint ptDoc);
+    CString TextToStartWith(const CImgNode* pNode, const CString& strText);
+
+    // The commit.
+    void CommitText(CCanvas& canvas, const CString& strText);
+    CTextNode* BuildCommitted(const CString& strText);
+    bool TakeLook(CTextNode& node);
+    void KeepUnsaved(CCanvas& canvas, const CString& strText);
+    void TakePanelTransparency(CTextNode& node);
+    void CommitNew(CCanvas& canvas, CTextNode& node, const CRect& rcDoc);
+    void CommitEdited(CCanvas& canvas, std::unique_ptr<CTextNode> pNew, int nAlignment);
+    void GiveDefaultShadow(CTextNode& node);
+    void TakeExcludedNodeOut(CCanvas& canvas);
+    void CloseEditor();
+
+    std::unique_ptr<CInplaceEditor> m_pEditor;
+    CImgNode* m_pZAnchor = nullptr; ///< the edited object goes back behind it; may be gone by then
+    CTextNode* m_pEdited = nullptr; ///< off the page while it is edited; the document owns it
+    CPoint m_ptDblClick;            ///< client pixels
+    int m_nEndedOnPress = 0;        ///< 1 when a single press ended an editing
+    CString m_strUnsaved;           ///< a text that could not be rendered; it is offered again
+    std::uint32_t m_nUnsavedOf = 0; ///< identity of the object that it belongs to; 0 for new text
+};
