@@ -2,8 +2,8 @@
 // Usage: bench_arrange
 #include "buffer/buffer_host.h"
 #include "canvas.h"
-#include "desk/tool_operations.h"
 #include "host/mask.h"
+#include "host/tool.h"
 #include "image/picture_node.h"
 
 #include <array>
@@ -28,7 +28,7 @@ class CManySelected {
   public:
     explicit CManySelected(int n);
     CCanvasStage& Stage() { return m_stage; }
-    CToolOperations& Tool() { return *OperationsOf(m_stage.CurrentTool()); }
+    CTool& Tool() { return *AsTool(m_stage.CurrentTool()); }
     CRect Rect(int i) { return m_stage.Nodes()[static_cast<std::size_t>(i)]->m_fnGetBoundRectWithFrame(); }
     const CRect& Home(int i) const { return m_homes[static_cast<std::size_t>(i)]; }
     int Count() const { return static_cast<int>(m_homes.size()); }
@@ -88,7 +88,7 @@ struct Case {
     bool (*pfnDone)(CManySelected&);
 };
 
-template <void (CToolOperations::*pfnOp)()>
+template <void (CTool::*pfnOp)()>
 void Run(CManySelected& many) {
     (many.Tool().*pfnOp)();
 }
@@ -151,10 +151,10 @@ bool Copied(CManySelected& many) {
 }
 
 constexpr std::array<Case, 7> Cases = {{
-    {"align_left", GoHome, Run<&CToolOperations::m_fnAlignLeft>, AllLeft},
-    {"distribute", GoHome, Run<&CToolOperations::m_fnDistributeHorizontally>, FirstStays},
-    {"bring_to_front", GoHome, Run<&CToolOperations::m_fnBringToFront>, SameOrder},
-    {"same_size", GoHome, Run<&CToolOperations::m_fnSameSize>, SameSize},
+    {"align_left", GoHome, Run<&CTool::m_fnAlignLeft>, AllLeft},
+    {"distribute", GoHome, Run<&CTool::m_fnDistributeHorizontally>, FirstStays},
+    {"bring_to_front", GoHome, Run<&CTool::m_fnBringToFront>, SameOrder},
+    {"same_size", GoHome, Run<&CTool::m_fnSameSize>, SameSize},
     {"copy_selection", GoHome, [](CManySelected& many) { many.Stage().Ops().RecordSelectionUndo(); },
      OneStep},
     {"compare_selection", GoHome, [](CManySelected& many) { many.Stage().Key(VK_LEFT); }, NoStep},

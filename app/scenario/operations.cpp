@@ -4,14 +4,14 @@
 #include <climits>
 #include <span>
 
-#include "desk/tool_operations.h"
+#include "host/tool.h"
 #include "panel_kind.h"
 #include "scenario/error.h"
 #include "scenario/text_operations.h"
 
 namespace {
 
-using MainHandler = void (*)(CRunner&, CArguments&, CToolOperations&);
+using MainHandler = void (*)(CRunner&, CArguments&, CTool&);
 using OpsHandler = void (*)(CRunner&, CArguments&, IToolObjectOps&);
 using text_operations::SayNothing;
 
@@ -181,21 +181,21 @@ constexpr std::array<OperationRow<OpsHandler>, 38> Ops = {{
     {38, "MakePlaceholderFrame", nullptr},
 }};
 
-template <int (CToolOperations::*pfnOp)()>
-void MainPlain(CRunner& run, CArguments& args, CToolOperations& tool) {
+template <int (CTool::*pfnOp)()>
+void MainPlain(CRunner& run, CArguments& args, CTool& tool) {
     args.End();
     run.Say((tool.*pfnOp)());
 }
 
-template <void (CToolOperations::*pfnOp)()>
-void MainCommand(CRunner& run, CArguments& args, CToolOperations& tool) {
+template <void (CTool::*pfnOp)()>
+void MainCommand(CRunner& run, CArguments& args, CTool& tool) {
     args.End();
     (tool.*pfnOp)();
     SayNothing(run);
 }
 
-template <int (CToolOperations::*pfnOp)(CImgNode*, RECT*)>
-void MainRectOfNode(CRunner& run, CArguments& args, CToolOperations& tool) {
+template <int (CTool::*pfnOp)(CImgNode*, RECT*)>
+void MainRectOfNode(CRunner& run, CArguments& args, CTool& tool) {
     CImgNode* pNode = run.NodeOrNone(args, "NODE");
     args.End();
     RECT rect{};
@@ -203,15 +203,15 @@ void MainRectOfNode(CRunner& run, CArguments& args, CToolOperations& tool) {
     SayRect(run, nResult, rect);
 }
 
-template <int (CToolOperations::*pfnOp)(CImgNode*)>
-void MainNode(CRunner& run, CArguments& args, CToolOperations& tool) {
+template <int (CTool::*pfnOp)(CImgNode*)>
+void MainNode(CRunner& run, CArguments& args, CTool& tool) {
     CImgNode* pNode = run.NodeOrNone(args, "NODE");
     args.End();
     run.Say((tool.*pfnOp)(pNode));
 }
 
-template <int (CToolOperations::*pfnOp)(CPoint*, CImgNode*)>
-void MainHit(CRunner& run, CArguments& args, CToolOperations& tool) {
+template <int (CTool::*pfnOp)(CPoint*, CImgNode*)>
+void MainHit(CRunner& run, CArguments& args, CTool& tool) {
     CPoint point = args.Point("X Y");
     CImgNode* pNode = run.NodeOrNone(args, "NODE");
     args.End();
@@ -219,8 +219,8 @@ void MainHit(CRunner& run, CArguments& args, CToolOperations& tool) {
 }
 
 /// Draws straight onto the view; the next paint of the place takes it away.
-template <int (CToolOperations::*pfnOp)(CDC*, CPoint*, CImgNode*)>
-void MainDraw(CRunner& run, CArguments& args, CToolOperations& tool) {
+template <int (CTool::*pfnOp)(CDC*, CPoint*, CImgNode*)>
+void MainDraw(CRunner& run, CArguments& args, CTool& tool) {
     CPoint ptOrigin = args.Point("X Y");
     CImgNode* pNode = run.NodeOrNone(args, "NODE");
     args.End();
@@ -228,34 +228,34 @@ void MainDraw(CRunner& run, CArguments& args, CToolOperations& tool) {
     run.Say((tool.*pfnOp)(&dc, &ptOrigin, pNode));
 }
 
-void GetToolRect(CRunner& run, CArguments& args, CToolOperations& tool) {
+void GetToolRect(CRunner& run, CArguments& args, CTool& tool) {
     args.End();
     RECT rect{};
     const int nResult = tool.GetToolRect(&rect);
     SayRect(run, nResult, rect);
 }
 
-void OnSetCursor(CRunner& run, CArguments& args, CToolOperations& tool) {
+void OnSetCursor(CRunner& run, CArguments& args, CTool& tool) {
     CPoint point = args.Point("X Y");
     args.End();
     tool.OnSetCursor(&point);
     SayNothing(run);
 }
 
-void Copy(CRunner& run, CArguments& args, CToolOperations& tool) {
+void Copy(CRunner& run, CArguments& args, CTool& tool) {
     const CPoint point = args.Point("X Y");
     args.End();
     run.Say(tool.m_fnCopy(point));
 }
 
-void Paste(CRunner& run, CArguments& args, CToolOperations& tool) {
+void Paste(CRunner& run, CArguments& args, CTool& tool) {
     const CPoint point = args.Point("X Y");
     const int nFlag = args.Int("N");
     args.End();
     run.Say(tool.m_fnPaste(point, nFlag));
 }
 
-void GetPanelKind(CRunner& run, CArguments& args, CToolOperations& tool) {
+void GetPanelKind(CRunner& run, CArguments& args, CTool& tool) {
     args.End();
     run.Say(AskPanelKind(tool));
 }
@@ -263,46 +263,46 @@ void GetPanelKind(CRunner& run, CArguments& args, CToolOperations& tool) {
 constexpr std::array<OperationRow<MainHandler>, 48> Main = {{
     {6, "GetToolRect", GetToolRect},
     {7, "OnObjectHook", text_operations::OnObjectHook},
-    {8, "host-reset", MainPlain<&CToolOperations::ResetHost>},
+    {8, "host-reset", MainPlain<&CTool::ResetHost>},
     {9, "OnSetCursor", OnSetCursor},
-    {10, "IsCtrlDown", MainPlain<&CToolOperations::IsCtrlDown>},
-    {11, "GetNodeMarkRect", MainRectOfNode<&CToolOperations::GetNodeMarkRect>},
-    {12, "GetNodeOutlineMarkRect", MainRectOfNode<&CToolOperations::GetNodeOutlineMarkRect>},
-    {13, "GetNodeRect", MainRectOfNode<&CToolOperations::GetNodeRect>},
-    {14, "GetNodeOutlineRect", MainRectOfNode<&CToolOperations::GetNodeOutlineRect>},
-    {15, "DrawSelectionMark", MainDraw<&CToolOperations::DrawSelectionMark>},
+    {10, "IsCtrlDown", MainPlain<&CTool::IsCtrlDown>},
+    {11, "GetNodeMarkRect", MainRectOfNode<&CTool::GetNodeMarkRect>},
+    {12, "GetNodeOutlineMarkRect", MainRectOfNode<&CTool::GetNodeOutlineMarkRect>},
+    {13, "GetNodeRect", MainRectOfNode<&CTool::GetNodeRect>},
+    {14, "GetNodeOutlineRect", MainRectOfNode<&CTool::GetNodeOutlineRect>},
+    {15, "DrawSelectionMark", MainDraw<&CTool::DrawSelectionMark>},
     {16, "Reserved16", nullptr},
-    {17, "DrawMarkRect", MainDraw<&CToolOperations::DrawMarkRect>},
+    {17, "DrawMarkRect", MainDraw<&CTool::DrawMarkRect>},
     {18, "Reserved18", nullptr},
-    {19, "InvalidateSelectionMark", MainNode<&CToolOperations::InvalidateSelectionMark>},
-    {20, "InvalidateMarkRect", MainNode<&CToolOperations::InvalidateMarkRect>},
-    {21, "HitTestSelected", MainHit<&CToolOperations::HitTestSelected>},
-    {22, "PtInNodeOutline", MainHit<&CToolOperations::PtInNodeOutline>},
-    {23, "m_fnBringForward", MainCommand<&CToolOperations::m_fnBringForward>},
-    {24, "m_fnSendBackward", MainCommand<&CToolOperations::m_fnSendBackward>},
-    {25, "m_fnBringToFront", MainCommand<&CToolOperations::m_fnBringToFront>},
-    {26, "m_fnSendToBack", MainCommand<&CToolOperations::m_fnSendToBack>},
+    {19, "InvalidateSelectionMark", MainNode<&CTool::InvalidateSelectionMark>},
+    {20, "InvalidateMarkRect", MainNode<&CTool::InvalidateMarkRect>},
+    {21, "HitTestSelected", MainHit<&CTool::HitTestSelected>},
+    {22, "PtInNodeOutline", MainHit<&CTool::PtInNodeOutline>},
+    {23, "m_fnBringForward", MainCommand<&CTool::m_fnBringForward>},
+    {24, "m_fnSendBackward", MainCommand<&CTool::m_fnSendBackward>},
+    {25, "m_fnBringToFront", MainCommand<&CTool::m_fnBringToFront>},
+    {26, "m_fnSendToBack", MainCommand<&CTool::m_fnSendToBack>},
     {27, "m_fnCopy", Copy},
     {28, "m_fnPaste", Paste},
-    {29, "m_fnDelete", MainCommand<&CToolOperations::m_fnDelete>},
-    {30, "Empty30", MainCommand<&CToolOperations::Empty30>},
-    {31, "Empty31", MainCommand<&CToolOperations::Empty31>},
+    {29, "m_fnDelete", MainCommand<&CTool::m_fnDelete>},
+    {30, "Empty30", MainCommand<&CTool::Empty30>},
+    {31, "Empty31", MainCommand<&CTool::Empty31>},
     {32, "m_fnRemoveFrame", nullptr},
     {33, "m_fnRemoveShadow", nullptr},
     {34, "m_fnEditTextAt", text_operations::EditTextAt},
     {35, "m_fnRemoveTextEffect", text_operations::RemoveTextEffect},
-    {36, "m_fnAlignLeft", MainCommand<&CToolOperations::m_fnAlignLeft>},
-    {37, "m_fnAlignTop", MainCommand<&CToolOperations::m_fnAlignTop>},
-    {38, "m_fnAlignRight", MainCommand<&CToolOperations::m_fnAlignRight>},
-    {39, "m_fnAlignBottom", MainCommand<&CToolOperations::m_fnAlignBottom>},
-    {40, "m_fnAlignMiddle", MainCommand<&CToolOperations::m_fnAlignMiddle>},
-    {41, "m_fnAlignCenter", MainCommand<&CToolOperations::m_fnAlignCenter>},
-    {42, "m_fnAlignCenters", MainCommand<&CToolOperations::m_fnAlignCenters>},
-    {43, "m_fnDistributeVertically", MainCommand<&CToolOperations::m_fnDistributeVertically>},
-    {44, "m_fnDistributeHorizontally", MainCommand<&CToolOperations::m_fnDistributeHorizontally>},
-    {45, "m_fnSameWidth", MainCommand<&CToolOperations::m_fnSameWidth>},
-    {46, "m_fnSameHeight", MainCommand<&CToolOperations::m_fnSameHeight>},
-    {47, "m_fnSameSize", MainCommand<&CToolOperations::m_fnSameSize>},
+    {36, "m_fnAlignLeft", MainCommand<&CTool::m_fnAlignLeft>},
+    {37, "m_fnAlignTop", MainCommand<&CTool::m_fnAlignTop>},
+    {38, "m_fnAlignRight", MainCommand<&CTool::m_fnAlignRight>},
+    {39, "m_fnAlignBottom", MainCommand<&CTool::m_fnAlignBottom>},
+    {40, "m_fnAlignMiddle", MainCommand<&CTool::m_fnAlignMiddle>},
+    {41, "m_fnAlignCenter", MainCommand<&CTool::m_fnAlignCenter>},
+    {42, "m_fnAlignCenters", MainCommand<&CTool::m_fnAlignCenters>},
+    {43, "m_fnDistributeVertically", MainCommand<&CTool::m_fnDistributeVertically>},
+    {44, "m_fnDistributeHorizontally", MainCommand<&CTool::m_fnDistributeHorizontally>},
+    {45, "m_fnSameWidth", MainCommand<&CTool::m_fnSameWidth>},
+    {46, "m_fnSameHeight", MainCommand<&CTool::m_fnSameHeight>},
+    {47, "m_fnSameSize", MainCommand<&CTool::m_fnSameSize>},
     {48, "Reserved48", nullptr},
     {49, "Reserved49", nullptr},
     {50, "OnNodeResized", text_operations::OnNodeResized},
@@ -337,6 +337,6 @@ void RunOperation(CRunner& run, CArguments& args) {
     if (pOps) {
         pOps->pfnRun(run, args, run.ToolInterface<IToolObjectOps>());
     } else {
-        pMain->pfnRun(run, args, *OperationsOf(run.RequireTool()));
+        pMain->pfnRun(run, args, *AsTool(run.RequireTool()));
     }
 }

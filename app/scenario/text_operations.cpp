@@ -40,15 +40,14 @@ void Replace(CRunner& run, CArguments& args, IToolObjectOps& ops, Replacing pfnR
     run.Say(nResult);
 }
 
-void AtPoint(CRunner& run, CArguments& args, CToolOperations& tool, void (CToolOperations::*pfnOp)(CPoint)) {
+void AtPoint(CRunner& run, CArguments& args, CTool& tool, void (CTool::*pfnOp)(CPoint)) {
     const CPoint point = args.ClientPoint("X Y");
     args.End();
     (tool.*pfnOp)(point);
     SayNothing(run);
 }
 
-void WithNode(CRunner& run, CArguments& args, CToolOperations& tool,
-              void (CToolOperations::*pfnOp)(CImgNode*)) {
+void WithNode(CRunner& run, CArguments& args, CTool& tool, void (CTool::*pfnOp)(CImgNode*)) {
     CImgNode* pNode = run.NodeOrNone(args, "NODE");
     args.End();
     (tool.*pfnOp)(pNode);
@@ -92,24 +91,24 @@ void CopyNodeLook(CRunner& run, CArguments& args, IToolObjectOps& ops) {
     run.Say(ops.CopyNodeLook(pSource, pTarget));
 }
 
-void OnObjectHook(CRunner& run, CArguments& args, CToolOperations& tool) {
-    WithNode(run, args, tool, &CToolOperations::OnObjectHook);
+void OnObjectHook(CRunner& run, CArguments& args, CTool& tool) {
+    WithNode(run, args, tool, &CTool::OnObjectHook);
 }
 
-void EditTextAt(CRunner& run, CArguments& args, CToolOperations& tool) {
-    AtPoint(run, args, tool, &CToolOperations::m_fnEditTextAt);
+void EditTextAt(CRunner& run, CArguments& args, CTool& tool) {
+    AtPoint(run, args, tool, &CTool::m_fnEditTextAt);
 }
 
-void RemoveTextEffect(CRunner& run, CArguments& args, CToolOperations& tool) {
-    AtPoint(run, args, tool, &CToolOperations::m_fnRemoveTextEffect);
+void RemoveTextEffect(CRunner& run, CArguments& args, CTool& tool) {
+    AtPoint(run, args, tool, &CTool::m_fnRemoveTextEffect);
 }
 
-void OnNodeResized(CRunner& run, CArguments& args, CToolOperations& tool) {
-    WithNode(run, args, tool, &CToolOperations::OnNodeResized);
+void OnNodeResized(CRunner& run, CArguments& args, CTool& tool) {
+    WithNode(run, args, tool, &CTool::OnNodeResized);
 }
 
 // Every tool that a host receives has this operation behind the common ones.
-void ResizeTextNode(CRunner& run, CArguments& args, CToolOperations& tool) {
+void ResizeTextNode(CRunner& run, CArguments& args, CTool& tool) {
     CImgNode* pNode = run.NodeOrNone(args, "NODE");
     std::optional<RECT> rect;
     if (!args.TakeWord("none")) {
@@ -121,7 +120,7 @@ void ResizeTextNode(CRunner& run, CArguments& args, CToolOperations& tool) {
     SayNode(run, objectTool.ResizeTextNode(pNode, rect ? &*rect : nullptr, nHandle));
 }
 
-void EditTextNode(CRunner& run, CArguments& args, CToolOperations& tool) {
+void EditTextNode(CRunner& run, CArguments& args, CTool& tool) {
     CImgNode* pNode = run.NodeOrNone(args, "NODE");
     const CPoint point = args.Point("X Y");
     args.End();

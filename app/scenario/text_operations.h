@@ -1,7 +1,7 @@
 // The operations on text objects that the command `op` reaches.
 #pragma once
 
-#include "desk/tool_operations.h"
+#include "host/tool.h"
 #include "host/tool_interfaces.h"
 #include "scenario/arguments.h"
 #include "scenario/runner.h"
@@ -18,12 +18,12 @@ void ReplaceTextNode(CRunner& run, CArguments& args, IToolObjectOps& ops);
 void RebuildTextNodeInPlace(CRunner& run, CArguments& args, IToolObjectOps& ops);
 void CopyNodeLook(CRunner& run, CArguments& args, IToolObjectOps& ops);
 
-void OnObjectHook(CRunner& run, CArguments& args, CToolOperations& tool);
-void EditTextAt(CRunner& run, CArguments& args, CToolOperations& tool);
-void RemoveTextEffect(CRunner& run, CArguments& args, CToolOperations& tool);
-void OnNodeResized(CRunner& run, CArguments& args, CToolOperations& tool);
-void ResizeTextNode(CRunner& run, CArguments& args, CToolOperations& tool);
+void OnObjectHook(CRunner& run, CArguments& args, CTool& tool);
+void EditTextAt(CRunner& run, CArguments& args, CTool& tool);
+void RemoveTextEffect(CRunner& run, CArguments& args, CTool& tool);
+void OnNodeResized(CRunner& run, CArguments& args, CTool& tool);
+void ResizeTextNode(CRunner& run, CArguments& args, CTool& tool);
 /// Of the text tool alone; an error for another one.
-void EditTextNode(CRunner& run, CArguments& args, CToolOperations& tool);
+void EditTextNode(CRunner& run, CArguments& args, CTool& tool);
 
 } // namespace text_operations

@@ -4,9 +4,9 @@
 #include "tools/combo_tools.h"
 #include "tools/display_tool.h"
 #include "tools/frame_tool.h"
-#include "tools/image_shadow_tool.h"
 #include "tools/object_page_tool.h"
 #include "tools/select_tool.h"
+#include "tools/shadow_tool.h"
 
 namespace {
 

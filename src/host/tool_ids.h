@@ -1,7 +1,9 @@
-// Class GUIDs, group GUIDs and kinds of the tool classes.
+// What names a tool class: its class and group GUIDs, its kind on the bus, the page it pairs with.
 #pragma once
 
-#include <windows.h>
+#include <array>
+
+#include "host/kinds.h"
 
 namespace tool_group {
 inline constexpr GUID Common = {0x47AB3BB3, 0xC8F0, 0x4C35, {0x97, 0xA7, 0xBF, 0x72, 0x39, 0x39, 0xD7, 0xA5}};
@@ -71,3 +73,61 @@ inline constexpr int FrameTool = 10;
 inline constexpr int ShadowTool = 11;
 inline constexpr int Text = 12;
 } // namespace panel_kind
+
+/// One tool class, as module and host know it.
+struct ToolIdentity {
+    const char* pszClass;
+    GUID classId;
+    GUID baseId; ///< the class that it is built on and whose kinds it answers as well; its own for the root
+    GUID groupId;
+    GUID category; ///< of the kind
+    int nKind;
+    int nPanelKind; ///< of the page that it pairs with; 0 for none. One class computes its own.
+};
+
+/// Bases stand before what is built on them.
+inline constexpr std::array<ToolIdentity, 18> ToolIdentities = {{
+    {"CToolCore", tool_class::Core, tool_class::Core, tool_group::Common, CategoryId, kind::Any, 0},
+    {"CToolBase", tool_class::Base, tool_class::Core, tool_group::Common, CategoryId, kind::Any, 0},
+    {"CObjectTool", tool_class::Object, tool_class::Base, tool_group::Common, CategoryId, kind::Any, 0},
+    {"CSelectTool", tool_class::Select, tool_class::Object, tool_group::Select, CategoryId, tool_kind::Select,
+     0},
+    {"CBasicObjectTool", tool_class::BasicObject, tool_class::Object, tool_group::Common, CategoryId,
+     tool_kind::BasicObject, panel_kind::BasicTool},
+    {"CObjectPageTool", tool_class::ObjectPage, tool_class::BasicObject, tool_group::Object, CategoryId,
+     tool_kind::ObjectPage, panel_kind::Object},
+    {"CDisplayTool", tool_class::Display, tool_class::Object, tool_group::Common, CategoryId,
+     tool_kind::Display, panel_kind::DisplayTool},
+    {"CDisplayPageTool", tool_class::DisplayPage, tool_class::Display, tool_group::Object, CategoryId,
+     tool_kind::DisplayPage, panel_kind::Object},
+    {"CTextDisplayTool", tool_class::TextDisplay, tool_class::Display, tool_group::Text, CategoryId,
+     tool_kind::TextDisplay, panel_kind::Text},
+    {"CFrameToolBase", tool_class::FrameBase, tool_class::Object, tool_group::Common, CategoryId,
+     tool_kind::FrameBase, panel_kind::FrameTool},
+    {"CFrameTool", tool_class::Frame, tool_class::FrameBase, tool_group::Object, CategoryId, tool_kind::Frame,
+     panel_kind::Object},
+    {"CShadowTool", tool_class::Shadow, tool_class::Object, tool_group::Common, CategoryId, tool_kind::Shadow,
+     panel_kind::ShadowTool},
+    {"CImageShadowTool", tool_class::ImageShadow, tool_class::Shadow, tool_group::Object, CategoryId,
+     tool_kind::ImageShadow, panel_kind::Object},
+    {"CTextShadowTool", tool_class::TextShadow, tool_class::Shadow, tool_group::Text, CategoryId,
+     tool_kind::TextShadow, panel_kind::Text},
+    {"CTextComboTool", tool_class::TextCombo, tool_class::TextShadow, tool_group::Text, EditCategoryId,
+     tool_kind::TextCombo, panel_kind::Text},
+    {"CAdaptiveComboTool", tool_class::AdaptiveCombo, tool_class::TextShadow, tool_group::Text,
+     EditCategoryId, tool_kind::AdaptiveCombo, panel_kind::Composed},
+    {"CTextToolBase", tool_class::TextBase, tool_class::BasicObject, tool_group::Common, CategoryId,
+     tool_kind::TextBase, panel_kind::BasicTool},
+    {"CTextTool", tool_class::Text, tool_class::TextBase, tool_group::Text, CategoryId, tool_kind::Text,
+     panel_kind::Text},
+}};
+
+/// The row of a class GUID, or null.
+inline const ToolIdentity* FindToolIdentity(const GUID& classId) {
+    for (const ToolIdentity& identity : ToolIdentities) {
+        if (identity.classId == classId) {
+            return &identity;
+        }
+    }
+    return nullptr;
+}

@@ -13,6 +13,10 @@ inline long long FarEdge(const CRect& rc, Axis axis) {
     return axis == Axis::Horizontal ? rc.right : rc.bottom;
 }
 inline long long Extent(const CRect& rc, Axis axis) { return FarEdge(rc, axis) - NearEdge(rc, axis); }
+/// Width and height, saturated.
+inline CSize ExtentOf(const CRect& rc) {
+    return CSize(Saturated(Extent(rc, Axis::Horizontal)), Saturated(Extent(rc, Axis::Vertical)));
+}
 /// A distance along one axis.
 inline CSize Along(Axis axis, long long nDistance) {
     const int n = Saturated(nDistance);

@@ -13,6 +13,10 @@ CCanvas::CCanvas(CListenerObject& seeker) {
     m_pView = position ? static_cast<CVorView*>(m_pDoc->GetNextView(position)) : nullptr;
 }
 
+CImgNode* CCanvas::OnlySelected() const {
+    return m_pDoc && Selection().GetCount() == 1 ? Selection().GetHead() : nullptr;
+}
+
 CRect CCanvas::ClientRect() const {
     CRect rcClient;
     m_pView->GetClientRect(&rcClient);

@@ -13,13 +13,18 @@ class CCanvas {
     explicit CCanvas(CListenerObject& seeker);
 
     bool HasDocument() const { return m_pDoc != nullptr; }
-    bool HasView() const { return m_pView != nullptr; }
     explicit operator bool() const { return m_pDoc && m_pView; }
 
     CVorDoc& Document() const { return *m_pDoc; }
     CVorView& View() const { return *m_pView; }
     CImgNodeList& Objects() const { return *m_pDoc->GetObjList(); }
     CImgNodeList& Selection() const { return *m_pDoc->GetActList(); }
+
+    /// These three also answer without a document.
+    bool HasSelection() const { return m_pDoc && !Selection().IsEmpty(); }
+    /// The selected node when there is exactly one, else null.
+    CImgNode* OnlySelected() const;
+    CImgNode* FirstSelected() const { return HasSelection() ? Selection().GetHead() : nullptr; }
     bool IsSelected(const CImgNode* pNode) const { return Selection().Find(pNode) != nullptr; }
 
     CRect ClientRect() const;

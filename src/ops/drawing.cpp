@@ -22,7 +22,7 @@ void DrawHandles(CDC& dc, const Corners& corners) {
 
 } // namespace
 
-CCachePicture::CCachePicture(CCanvas& canvas, CRect rcClient) : m_view(canvas.View()) {
+CCachePicture::CCachePicture(const CCanvas& canvas, CRect rcClient) : m_view(canvas.View()) {
     const CRect rcWindow = canvas.ClientRect();
     if (!rcClient.IntersectRect(&rcClient, &rcWindow)) {
         return;

@@ -25,7 +25,7 @@ class [[nodiscard]] CSelectObjectScope {
 class CCachePicture {
   public:
     /// `rcClient` is clipped to the client area.
-    CCachePicture(CCanvas& canvas, CRect rcClient);
+    CCachePicture(const CCanvas& canvas, CRect rcClient);
     ~CCachePicture();
     CCachePicture(const CCachePicture&) = delete;
     CCachePicture& operator=(const CCachePicture&) = delete;

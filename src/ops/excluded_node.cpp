@@ -1,5 +1,7 @@
 #include "ops/excluded_node.h"
 
+#include "ops/canvas.h"
+
 CExcludedNodeScope::CExcludedNodeScope(CImgNodeList& objects, CImgNode* pNode)
     : m_objects(objects), m_pNode(pNode) {
     POSITION position = pNode ? objects.Find(pNode) : nullptr;
@@ -25,10 +27,17 @@ CExcludedNodeScope::~CExcludedNodeScope() {
     }
 }
 
-void KeepExcludedNodeInFront(CImgNodeList& objects, CImgNode* pNode) {
-    POSITION position = pNode ? objects.Find(pNode) : nullptr;
-    if (position) {
-        objects.RemoveAt(position);
+void KeepExcludedNodeInFront(CTool& tool, CImgNodeList& objects) {
+    CImgNode* pNode = tool.GetExcludedNode();
+    if (POSITION place = pNode ? objects.Find(pNode) : nullptr) {
+        objects.RemoveAt(place);
         objects.AddHead(pNode);
+    }
+}
+
+void KeepExcludedNodeInFront(CTool& tool) {
+    const CCanvas canvas(tool);
+    if (canvas.HasDocument()) {
+        KeepExcludedNodeInFront(tool, canvas.Objects());
     }
 }

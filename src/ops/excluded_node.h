@@ -1,7 +1,7 @@
-// The care taken of a tool's excluded node while the object list is searched.
+// The care taken of a tool's excluded node.
 #pragma once
 
-#include "host/img_node_list.h"
+#include "host/tool.h"
 
 /// Takes a node out of the object list for as long as it lives, and puts it back at the same place: after its
 /// former predecessor, or at the head when it had none.
@@ -22,5 +22,6 @@ class [[nodiscard]] CExcludedNodeScope {
     bool m_bTaken = false;
 };
 
-/// Moves the excluded node to the head of the object list, if it is in it.
-void KeepExcludedNodeInFront(CImgNodeList& objects, CImgNode* pNode);
+/// Moves the tool's excluded node to the head of the object list, if it is in it.
+void KeepExcludedNodeInFront(CTool& tool, CImgNodeList& objects);
+void KeepExcludedNodeInFront(CTool& tool);

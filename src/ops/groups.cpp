@@ -1,31 +1,33 @@
 #include "ops/groups.h"
 
 #include <memory>
+#include <utility>
+
+#include "ops/nodes.h"
 
 namespace {
 
 using NodePtr = std::unique_ptr<CImgNode>;
 
-void TakeOut(CImgNodeList& objects, CImgNode* pNode) {
-    POSITION position = pNode ? objects.Find(pNode) : nullptr;
-    if (position) {
-        objects.RemoveAt(position);
-    }
+// The place of the companion when it is on the page, else the object's own.
+POSITION PlaceOf(const CImgNodeList& objects, const CImgNode& object, const CImgNode* pCompanion) {
+    POSITION place = pCompanion ? objects.Find(pCompanion) : nullptr;
+    return place ? place : objects.Find(&object);
 }
 
 } // namespace
 
-CImgNode* CopyObject(CImgNode& node, CopyOperation copy) {
-    NodePtr pCopy((node.*copy)());
+CImgNode* CopyGroup(CImgNode& object, CopyOperation copy) {
+    NodePtr pCopy((object.*copy)());
     if (!pCopy) {
         return nullptr;
     }
-    NodePtr pFrame(node.m_pFrameNode ? (node.m_pFrameNode->*copy)() : nullptr);
-    if (node.m_pFrameNode && !pFrame) {
+    NodePtr pFrame(object.m_pFrameNode ? (object.m_pFrameNode->*copy)() : nullptr);
+    if (object.m_pFrameNode && !pFrame) {
         return nullptr;
     }
-    NodePtr pShadow(node.m_pShadowNode ? (node.m_pShadowNode->*copy)() : nullptr);
-    if (node.m_pShadowNode && !pShadow) {
+    NodePtr pShadow(object.m_pShadowNode ? (object.m_pShadowNode->*copy)() : nullptr);
+    if (object.m_pShadowNode && !pShadow) {
         return nullptr;
     }
     if (pFrame) {
@@ -39,18 +41,74 @@ CImgNode* CopyObject(CImgNode& node, CopyOperation copy) {
     return pCopy.release();
 }
 
-void AddGroupAtHead(CImgNodeList& objects, CImgNode* pObject) {
-    if (pObject->m_pShadowNode) {
-        objects.AddHead(pObject->m_pShadowNode);
-    }
-    objects.AddHead(pObject);
-    if (pObject->m_pFrameNode) {
-        objects.AddHead(pObject->m_pFrameNode);
+void MoveGroup(CImgNode& object, CSize offset) {
+    for (CImgNode* pNode : {&object, object.m_pFrameNode, object.m_pShadowNode}) {
+        if (pNode) {
+            pNode->Move(offset.cx, offset.cy);
+        }
     }
 }
 
-void TakeGroupOut(CImgNodeList& objects, CImgNode* pObject) {
-    TakeOut(objects, pObject);
-    TakeOut(objects, pObject->m_pFrameNode);
-    TakeOut(objects, pObject->m_pShadowNode);
+void AddGroupAtHead(CImgNodeList& objects, CImgNode& object) {
+    for (CImgNode* pNode : {object.m_pShadowNode, &object, object.m_pFrameNode}) {
+        if (pNode) {
+            objects.AddHead(pNode);
+        }
+    }
 }
+
+void TakeGroupOut(CImgNodeList& objects, CImgNode& object) {
+    for (CImgNode* pNode : {&object, object.m_pFrameNode, object.m_pShadowNode}) {
+        TakeOut(objects, pNode);
+    }
+}
+
+void PutGroupInFrontOf(CImgNodeList& objects, CImgNode& object, CImgNode& other) {
+    TakeGroupOut(objects, object);
+    const POSITION place = PlaceOf(objects, other, other.m_pFrameNode);
+    for (CImgNode* pNode : GroupOf(object)) {
+        if (pNode) {
+            objects.InsertBefore(place, pNode);
+        }
+    }
+}
+
+void PutGroupBehind(CImgNodeList& objects, CImgNode& object, CImgNode& other) {
+    TakeGroupOut(objects, object);
+    const POSITION place = PlaceOf(objects, other, other.m_pShadowNode);
+    for (CImgNode* pNode : {object.m_pShadowNode, &object, object.m_pFrameNode}) {
+        if (pNode) {
+            objects.InsertAfter(place, pNode);
+        }
+    }
+}
+
+CImgNode* ObjectInFrontOf(const CImgNodeList& objects, const CImgNode& object) {
+    POSITION place = objects.Find(&object);
+    if (place) {
+        objects.GetPrev(place);
+    }
+    while (place) {
+        CImgNode* pNode = objects.GetPrev(place);
+        if (!pNode->m_pOwner) {
+            return pNode;
+        }
+    }
+    return nullptr;
+}
+
+CImgNode* ObjectBehind(const CImgNodeList& objects, const CImgNode& object) {
+    POSITION place = objects.Find(&object);
+    if (place) {
+        objects.GetNext(place);
+    }
+    while (place) {
+        CImgNode* pNode = objects.GetNext(place);
+        if (!pNode->m_pOwner) {
+            return pNode;
+        }
+    }
+    return nullptr;
+}
+
+void FreeCompanion(CImgNode*& pLink) { delete std::exchange(pLink, nullptr); }

@@ -19,7 +19,7 @@ Corners Shifted(Corners corners, CPoint ptOrigin) {
 }
 
 CRect HandleSquare(const Corners& corners, int nHandle) {
-    const HandleRow& row = Handles[static_cast<std::size_t>(nHandle)];
+    const HandleRow& row = HandleOf(nHandle);
     const double dX = (corners[row.first].x + corners[row.second].x) / 2.0;
     const double dY = (corners[row.first].y + corners[row.second].y) / 2.0;
     return CRect(Truncated(dX - HandleHalfSize), Truncated(dY - HandleHalfSize),

@@ -1,4 +1,4 @@
-// The eight handles: one table for drawing, hit test, cursor and geometry.
+// The eight handles: one table for drawing, hit test, cursor, geometry and the places that texts keep.
 #pragma once
 
 #include <array>
@@ -45,6 +45,8 @@ inline constexpr std::array<HandleRow, HandleCount> Handles = {{
     {TopRight, BottomRight, Edge::Far, Edge::None, cursor_id::SizeWe},
     {BottomRight, BottomRight, Edge::Far, Edge::Far, cursor_id::SizeNwSe},
 }};
+
+inline const HandleRow& HandleOf(int nHandle) { return Handles[static_cast<std::size_t>(nHandle)]; }
 
 /// Round the corners from the top-left: the order in which handles are drawn and tried by the hit test.
 inline constexpr std::array<int, HandleCount> HandleOrder = {0, 4, 5, 6, 7, 3, 2, 1};

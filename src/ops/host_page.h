@@ -3,14 +3,13 @@
 
 #include "host/kinds.h"
 #include "host/panels.h"
-#include "host/tool_interfaces.h"
+#include "host/tool.h"
 #include "ops/bus.h"
 
 namespace host_page {
 
 /// Shows the page unless it is showing already. A missing property area is passed over.
-template <class TTool>
-void Show(TTool& tool, int nPage) {
+inline void Show(CTool& tool, int nPage) {
     tool.ClassifySelection();
     IPropertyArea* const pArea = bus::FindService<IPropertyArea>(tool, kind::PropertyArea);
     if (pArea && pArea->GetPage() != nPage) {

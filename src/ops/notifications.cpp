@@ -1,9 +1,8 @@
-// The change notifications and the selection's own undo record.
+#include "ops/notifications.h"
+
 #include "host/notifications.h"
 #include "ops/bus.h"
-#include "tools/tool_core.h"
-#include "undo/recorder.h"
-#include "undo/sel_changed_event.h"
+#include "ops/canvas.h"
 
 namespace {
 
@@ -15,13 +14,13 @@ TInterface* FindGlobal(int nKind) {
 
 } // namespace
 
-int CToolCore::NotifyObjectsChanged() {
-    CCanvas canvas(*this);
+int notifications::NotifyObjectsChanged(CTool& tool) {
+    const CCanvas canvas(tool);
     if (!canvas.HasDocument()) {
         return 0;
     }
     canvas.Document().SetModifiedFlag(TRUE);
-    CListenerObject* pPageObjects = bus::FindObject(*this, CategoryId, kind::PageObjects);
+    CListenerObject* pPageObjects = bus::FindObject(tool, CategoryId, kind::PageObjects);
     if (!pPageObjects) {
         return 0;
     }
@@ -39,22 +38,13 @@ int CToolCore::NotifyObjectsChanged() {
     return 1;
 }
 
-int CToolCore::NotifyObjectsRedrawn() {
-    CListenerObject* pPageObjects = bus::FindObject(*this, CategoryId, kind::PageObjects);
+int notifications::NotifyObjectsRedrawn(CTool& tool) {
+    CListenerObject* pPageObjects = bus::FindObject(tool, CategoryId, kind::PageObjects);
     if (!pPageObjects) {
         return 0;
     }
     bus::Broadcast<IRedrawReceiver>(kind::RedrawReceiver, [pPageObjects](IRedrawReceiver& receiver) {
         receiver.OnRedrawn(pPageObjects);
     });
-    return 1;
-}
-
-int CToolCore::RecordSelectionUndo() {
-    std::unique_ptr<CSelChangedUndoEvent> pEvent = CaptureState<CSelChangedUndoEvent>(AsObjectTool());
-    if (!pEvent) {
-        return 0;
-    }
-    RecordEvent(pEvent);
     return 1;
 }

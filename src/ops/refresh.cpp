@@ -1,19 +1,39 @@
 #include "ops/refresh.h"
 
-#include "host/tool_interfaces.h"
+#include "ops/canvas.h"
 
-void CRefresh::FlushMarkRepaint(CVorView& view, IToolObjectOps& tool) {
-    view.m_fnFlushCacheRect(m_rcArea);
-    tool.ShowSelectionMarks(1);
-    view.RepaintViewRect(m_rcArea, 1);
+void CRefresh::FlushMarkRepaint(const CCanvas& canvas, CTool& tool) const {
+    if (canvas) {
+        Flush(canvas);
+        tool.ShowSelectionMarks(1);
+        Repaint(canvas);
+    }
 }
 
-void CRefresh::FlushRepaint(CVorView& view) {
-    view.m_fnFlushCacheRect(m_rcArea);
-    view.RepaintViewRect(m_rcArea, 1);
+void CRefresh::FlushRepaint(const CCanvas& canvas) const {
+    Flush(canvas);
+    Repaint(canvas);
 }
 
-void NotifyChangedThenRedrawn(IToolObjectOps& tool) {
+void CRefresh::Flush(const CCanvas& canvas) const {
+    if (canvas) {
+        CRect rcArea = m_rcArea;
+        canvas.View().m_fnFlushCacheRect(rcArea);
+    }
+}
+
+void CRefresh::Repaint(const CCanvas& canvas) const {
+    if (canvas) {
+        canvas.View().RepaintViewRect(m_rcArea, 1);
+    }
+}
+
+void NotifyChangedThenRedrawn(CTool& tool) {
     tool.NotifyObjectsChanged();
     tool.NotifyObjectsRedrawn();
+}
+
+void NotifyRedrawnThenChanged(CTool& tool) {
+    tool.NotifyObjectsRedrawn();
+    tool.NotifyObjectsChanged();
 }

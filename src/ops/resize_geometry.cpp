@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
+#include "ops/view_margin.h"
+
 namespace {
 
 struct Size {
     double dWidth;
     double dHeight;
 };
-
-const HandleRow& RowOf(int nHandle) { return Handles[static_cast<std::size_t>(nHandle)]; }
 
 // The distance from the edge that stays to the pointer; negative when the pointer has crossed that edge.
 double Reach(Edge moved, double dNear, double dFar, double dPointer) {
@@ -61,24 +61,24 @@ Size ResizedSize(const CRect& rcNode, CPoint point, const HandleRow& row) {
 } // namespace
 
 CPoint ClampedPointer(CPoint point, int nHandle, const CRect& rcView) {
-    const HandleRow& row = RowOf(nHandle);
+    const HandleRow& row = HandleOf(nHandle);
     if (row.horizontal == Edge::Near) {
-        point.x = std::min<int>(point.x, rcView.right - ResizeViewMargin);
+        point.x = std::min<int>(point.x, rcView.right - ViewMargin);
     }
     if (row.vertical == Edge::Near) {
-        point.y = std::min<int>(point.y, rcView.bottom - ResizeViewMargin);
+        point.y = std::min<int>(point.y, rcView.bottom - ViewMargin);
     }
     if (row.horizontal == Edge::Far) {
-        point.x = std::max<int>(point.x, rcView.left + ResizeViewMargin);
+        point.x = std::max<int>(point.x, rcView.left + ViewMargin);
     }
     if (row.vertical == Edge::Far) {
-        point.y = std::max<int>(point.y, rcView.top + ResizeViewMargin);
+        point.y = std::max<int>(point.y, rcView.top + ViewMargin);
     }
     return point;
 }
 
 Corners ResizedCorners(const CRect& rcNode, CPoint point, int nHandle) {
-    const HandleRow& row = RowOf(nHandle);
+    const HandleRow& row = HandleOf(nHandle);
     const Size size = ResizedSize(rcNode, point, row);
     const bool bLeftMoves = row.horizontal == Edge::Near;
     const bool bTopMoves = row.vertical == Edge::Near;

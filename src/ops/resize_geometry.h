@@ -6,8 +6,6 @@
 #include "ops/handles.h"
 
 inline constexpr double LeastResizedSide = 16.0; ///< client pixels
-inline constexpr int ResizeViewMargin =
-    8; ///< client pixels by which a handle stays away from the view's far side
 
 /// The pointer, kept away from the side of the view that faces the edges which the handle moves.
 CPoint ClampedPointer(CPoint point, int nHandle, const CRect& rcView);

@@ -1,170 +1,125 @@
-// The four stacking moves. Each acts on whole groups: frame, object, shadow from the front.
+#include "ops/stacking.h"
+
+#include "ops/canvas.h"
 #include "ops/excluded_node.h"
 #include "ops/groups.h"
+#include "ops/nodes.h"
 #include "ops/refresh.h"
-#include "tools/tool_core.h"
 
 namespace {
 
-void AddGroupAtTail(CImgNodeList& objects, CImgNode* pObject) {
-    for (CImgNode* pNode : {pObject->m_pFrameNode, pObject, pObject->m_pShadowNode}) {
-        if (pNode) {
-            objects.AddTail(pNode);
-        }
-    }
-}
-
-// The place of the companion when it is on the page, else the object's own.
-POSITION PlaceOf(const CImgNodeList& objects, CImgNode* pObject, CImgNode* pCompanion) {
-    POSITION position = pCompanion ? objects.Find(pCompanion) : nullptr;
-    return position ? position : objects.Find(pObject);
-}
-
-CImgNode* TopLevelInFrontOf(const CImgNodeList& objects, CImgNode* pObject) {
-    POSITION position = objects.Find(pObject);
-    objects.GetPrev(position);
-    while (position) {
-        CImgNode* pNode = objects.GetPrev(position);
-        if (!pNode->m_pOwner) {
-            return pNode;
-        }
-    }
-    return nullptr;
-}
-
-CImgNode* TopLevelBehind(const CImgNodeList& objects, CImgNode* pObject) {
-    POSITION position = objects.Find(pObject);
-    objects.GetNext(position);
-    while (position) {
-        CImgNode* pNode = objects.GetNext(position);
-        if (!pNode->m_pOwner) {
-            return pNode;
-        }
-    }
-    return nullptr;
-}
-
-void PutGroupInFrontOf(CImgNodeList& objects, CImgNode* pObject, CImgNode* pOther) {
-    TakeGroupOut(objects, pObject);
-    const POSITION place = PlaceOf(objects, pOther, pOther->m_pFrameNode);
-    for (CImgNode* pNode : {pObject->m_pFrameNode, pObject, pObject->m_pShadowNode}) {
-        if (pNode) {
-            objects.InsertBefore(place, pNode);
-        }
-    }
-}
-
-void PutGroupBehind(CImgNodeList& objects, CImgNode* pObject, CImgNode* pOther) {
-    TakeGroupOut(objects, pObject);
-    const POSITION place = PlaceOf(objects, pOther, pOther->m_pShadowNode);
-    for (CImgNode* pNode : {pObject->m_pShadowNode, pObject, pObject->m_pFrameNode}) {
-        if (pNode) {
-            objects.InsertAfter(place, pNode);
-        }
-    }
-}
-
-} // namespace
-
-// Companions in the selection are left out: they go where their object goes.
-void CToolCore::m_fnSortByStacking(CCanvas& canvas, CNodeRefList& nodes) {
+void Sort(const CCanvas& canvas, CNodeRefList& nodes) {
     nodes.RemoveAll();
-    for (POSITION position = canvas.Objects().GetHeadPosition(); position;) {
-        CImgNode* pNode = canvas.Objects().GetNext(position);
+    for (CImgNode* pNode : Each(canvas.Objects())) {
         if (!pNode->m_pOwner && canvas.IsSelected(pNode)) {
             nodes.AddTail(pNode);
         }
     }
 }
 
-void CToolCore::m_fnBringForward() {
-    CCanvas canvas(*this);
-    if (!canvas) {
+/// The frame of a move: the selected objects in stacking order, and what shows the page afterwards. Stacking
+/// changes no rectangle, so the area is taken once.
+class CStackingScope {
+  public:
+    explicit CStackingScope(CTool& tool) : m_tool(tool), m_canvas(tool) {
+        if (m_canvas) {
+            Sort(m_canvas, m_sorted);
+        }
+    }
+    ~CStackingScope() {
+        if (m_canvas) {
+            CRefresh refresh;
+            refresh.Add(SelectionOutlineRect(m_tool));
+            refresh.FlushMarkRepaint(m_canvas, m_tool);
+            NotifyChangedThenRedrawn(m_tool);
+        }
+    }
+    CStackingScope(const CStackingScope&) = delete;
+    CStackingScope& operator=(const CStackingScope&) = delete;
+
+    explicit operator bool() const { return static_cast<bool>(m_canvas); }
+    CImgNodeList& Objects() const { return m_canvas.Objects(); }
+    CNodeRefList& Sorted() { return m_sorted; }
+
+  private:
+    CTool& m_tool;
+    CCanvas m_canvas;
+    CNodeRefList m_sorted;
+};
+
+void PutAtHead(CImgNodeList& objects, CImgNode& object) {
+    TakeGroupOut(objects, object);
+    AddGroupAtHead(objects, object);
+}
+
+void PutAtTail(CImgNodeList& objects, CImgNode& object) {
+    TakeGroupOut(objects, object);
+    AddGroupAtTail(objects, object);
+}
+
+} // namespace
+
+void stacking::SortByStacking(CTool& tool, CNodeRefList& nodes) {
+    const CCanvas canvas(tool);
+    if (canvas.HasDocument()) {
+        Sort(canvas, nodes);
+    }
+}
+
+void stacking::BringForward(CTool& tool) {
+    CStackingScope stack(tool);
+    if (!stack) {
         return;
     }
-    CNodeRefList sorted;
-    m_fnSortByStacking(canvas, sorted);
     bool bOneStayed = false;
-    for (POSITION position = sorted.GetHeadPosition(); position;) {
-        CImgNode* pObject = sorted.GetNext(position);
-        CImgNode* pOther = TopLevelInFrontOf(canvas.Objects(), pObject);
+    for (CImgNode* pObject : Each(stack.Sorted())) {
+        CImgNode* pOther = ObjectInFrontOf(stack.Objects(), *pObject);
         if (pOther) {
-            PutGroupInFrontOf(canvas.Objects(), pObject, pOther);
+            PutGroupInFrontOf(stack.Objects(), *pObject, *pOther);
         }
         bOneStayed = bOneStayed || !pOther;
     }
     if (bOneStayed) {
-        TakeGroupOut(canvas.Objects(), sorted.GetHead());
-        AddGroupAtHead(canvas.Objects(), sorted.GetHead());
+        PutAtHead(stack.Objects(), *stack.Sorted().GetHead());
     }
-    m_fnKeepExcludedNodeInFront(canvas);
-    FinishStacking(canvas);
+    KeepExcludedNodeInFront(tool, stack.Objects());
 }
 
-void CToolCore::m_fnSendBackward() {
-    CCanvas canvas(*this);
-    if (!canvas) {
+void stacking::SendBackward(CTool& tool) {
+    CStackingScope stack(tool);
+    if (!stack) {
         return;
     }
-    CNodeRefList sorted;
-    m_fnSortByStacking(canvas, sorted);
     bool bOneStayed = false;
-    for (POSITION position = sorted.GetTailPosition(); position;) {
-        CImgNode* pObject = sorted.GetPrev(position);
-        CImgNode* pOther = TopLevelBehind(canvas.Objects(), pObject);
+    for (CImgNode* pObject : Backwards(stack.Sorted())) {
+        CImgNode* pOther = ObjectBehind(stack.Objects(), *pObject);
         if (pOther) {
-            PutGroupBehind(canvas.Objects(), pObject, pOther);
+            PutGroupBehind(stack.Objects(), *pObject, *pOther);
         }
         bOneStayed = bOneStayed || !pOther;
     }
     if (bOneStayed) {
-        TakeGroupOut(canvas.Objects(), sorted.GetTail());
-        AddGroupAtTail(canvas.Objects(), sorted.GetTail());
+        PutAtTail(stack.Objects(), *stack.Sorted().GetTail());
     }
-    FinishStacking(canvas);
 }
 
-void CToolCore::m_fnBringToFront() {
-    CCanvas canvas(*this);
-    if (!canvas) {
+void stacking::BringToFront(CTool& tool) {
+    CStackingScope stack(tool);
+    if (!stack) {
         return;
     }
-    CNodeRefList sorted;
-    m_fnSortByStacking(canvas, sorted);
-    for (POSITION position = sorted.GetTailPosition(); position;) {
-        CImgNode* pObject = sorted.GetPrev(position);
-        TakeGroupOut(canvas.Objects(), pObject);
-        AddGroupAtHead(canvas.Objects(), pObject);
+    for (CImgNode* pObject : Backwards(stack.Sorted())) {
+        PutAtHead(stack.Objects(), *pObject);
     }
-    m_fnKeepExcludedNodeInFront(canvas);
-    FinishStacking(canvas);
+    KeepExcludedNodeInFront(tool, stack.Objects());
 }
 
-void CToolCore::m_fnSendToBack() {
-    CCanvas canvas(*this);
-    if (!canvas) {
+void stacking::SendToBack(CTool& tool) {
+    CStackingScope stack(tool);
+    if (!stack) {
         return;
     }
-    CNodeRefList sorted;
-    m_fnSortByStacking(canvas, sorted);
-    for (POSITION position = sorted.GetHeadPosition(); position;) {
-        CImgNode* pObject = sorted.GetNext(position);
-        TakeGroupOut(canvas.Objects(), pObject);
-        AddGroupAtTail(canvas.Objects(), pObject);
+    for (CImgNode* pObject : Each(stack.Sorted())) {
+        PutAtTail(stack.Objects(), *pObject);
     }
-    FinishStacking(canvas);
-}
-
-void CToolCore::m_fnKeepExcludedNodeInFront(CCanvas& canvas) {
-    KeepExcludedNodeInFront(canvas.Objects(), GetExcludedNode());
-}
-
-// Stacking changes no rectangle, so the area is taken once, afterwards.
-void CToolCore::FinishStacking(CCanvas& canvas) {
-    CRefresh refresh;
-    CRect rc(0, 0, 0, 0);
-    GetSelectionOutlineRect(&rc);
-    refresh.Add(rc);
-    refresh.FlushMarkRepaint(canvas.View(), *this);
-    NotifyChangedThenRedrawn(*this);
 }

@@ -1,11 +1,15 @@
-// Building, removing and rebuilding the soft-edged shadow of an object.
+#include "shadows/shadow_build.h"
+
+#include <algorithm>
 #include <cstring>
 
 #include "host/mask.h"
 #include "ops/buffer_owner.h"
+#include "ops/canvas.h"
+#include "ops/groups.h"
+#include "ops/nodes.h"
 #include "ops/refresh.h"
 #include "ops/saturate.h"
-#include "tools/tool_core.h"
 
 namespace {
 
@@ -14,20 +18,6 @@ constexpr int BitsPerByte = 8;
 constexpr int FullMaskScale = 100; ///< percent
 constexpr int NoSoftMask = -1;     ///< the softness that makes no mask
 constexpr int ResizeMode = 2;      ///< of CBuf::Resize: smooth
-
-/// What a shadow is built from.
-struct ShadowSettings {
-    int nOffsetX;
-    int nOffsetY;
-    int nSoftness;
-    int nTransparency;
-    COLORREF crColor;
-};
-
-ShadowSettings SettingsOf(const CShadowParam& param) {
-    return {Truncated(param.dOffsetX), Truncated(param.dOffsetY), Truncated(param.dSoftness),
-            param.nTransparency, param.crColor};
-}
 
 /// A mask that is freed with it, unless it belongs to the object.
 class CHardMask {
@@ -94,6 +84,21 @@ CPoint BasePoint(const CImgNode& node) {
     return ptBase;
 }
 
+// Also places the block at the shadow's position; 0 when no mask can be made.
+HBUF32 SoftMaskOf(CImgNode& node, int nSoftness, CTxParam& block, CSize offset, CPoint& ptShadow) {
+    CHardMask mask(node);
+    if (!mask.Get()) {
+        return 0;
+    }
+    mask.Scale(node.m_tx);
+    return MakeSoftMask(mask.Get(), nSoftness, block, offset, BasePoint(node), ptShadow);
+}
+
+CSize ShadowSizeOf(CImgNode& node) {
+    return node.m_pFrameNode ? node.m_fnGetBoundRectWithFrame().Size()
+                             : CSize(node.m_tx.nWidth, node.m_tx.nHeight);
+}
+
 // A buffer of the soft mask's size and of the object's pixel depth, filled with the colour; 0 on failure.
 HBUF32 MakeColorBuffer(HBUF32 hSoftMask, HBUF32 hImage, COLORREF crColor) {
     int nWidth = 0;
@@ -117,79 +122,10 @@ HBUF32 MakeColorBuffer(HBUF32 hSoftMask, HBUF32 hImage, COLORREF crColor) {
     return buffer.Release();
 }
 
-} // namespace
-
-// The block comes back at the shadow's position, also when no mask is made.
-HBUF32 CToolCore::m_fnMakeSoftMask(HBUF32 hMask, int nSoftness, CTxParam& block, CSize offset, CPoint ptBase,
-                                   CPoint& ptShadow) {
-    ptShadow = ptBase + offset;
-    HBUF32 hSoft = 0;
-    if (nSoftness != NoSoftMask) {
-        block.nX = Saturated(static_cast<long long>(block.nX) + offset.cx);
-        block.nY = Saturated(static_cast<long long>(block.nY) + offset.cy);
-        block.hMask = hMask;
-        if (!sel32SoftEdgeMakeMask(&block, 0, nSoftness, 0, 0, 0, 0)) {
-            block.hMask = 0;
-        }
-        hSoft = block.hMask;
-    }
-    block.nX = ptShadow.x;
-    block.nY = ptShadow.y;
-    return hSoft;
-}
-
-int CToolCore::m_fnCreateShadow(CImgNode* pNode, int nOffsetX, int nOffsetY, const COLORREF* pcrColor,
-                                int nSoftness, int nTransparency) {
-    if (!pNode) {
-        return 1;
-    }
-    CCanvas canvas(*this);
-    if (!canvas.HasDocument() || !pcrColor) {
-        return 0;
-    }
-    const COLORREF crColor = *pcrColor;
-    m_fnRemoveShadowOf(pNode);
-
-    CTxParam block = pNode->m_tx;
-    CPoint ptShadow;
-    HBUF32 hSoft = 0;
-    CSize size(pNode->m_tx.nWidth, pNode->m_tx.nHeight);
-    {
-        CHardMask mask(*pNode);
-        if (!mask.Get()) {
-            return 0;
-        }
-        if (pNode->m_pFrameNode) {
-            size = pNode->m_fnGetBoundRectWithFrame().Size();
-        }
-        mask.Scale(pNode->m_tx);
-        hSoft = m_fnMakeSoftMask(mask.Get(), nSoftness, block, CSize(nOffsetX, nOffsetY), BasePoint(*pNode),
-                                 ptShadow);
-    }
-    if (!hSoft) {
-        return 0;
-    }
-    CImgNode* pShadow = MakeShadowNode(canvas, *pNode, block, hSoft, crColor);
-    if (!pShadow) {
-        return 0;
-    }
-    pShadow->m_fnResize(CRect(ptShadow, size));
-    pShadow->m_nTransparency = nTransparency;
-    pNode->m_shadow = {static_cast<double>(nOffsetX), static_cast<double>(nOffsetY),
-                       static_cast<double>(nSoftness), nTransparency, crColor};
-    return 1;
-}
-
-int CToolCore::m_fnCreateShadow(CImgNode* pNode, const CShadowParam& param) {
-    const ShadowSettings settings = SettingsOf(param);
-    return m_fnCreateShadow(pNode, settings.nOffsetX, settings.nOffsetY, &settings.crColor,
-                            settings.nSoftness, settings.nTransparency);
-}
-
 // Takes the soft mask over. The new node stands directly behind the object and the two know each other; null
 // on failure.
-CImgNode* CToolCore::MakeShadowNode(CCanvas& canvas, CImgNode& object, const CTxParam& block, HBUF32 hSoft,
-                                    COLORREF crColor) {
+CImgNode* MakeShadowNode(const CCanvas& canvas, CImgNode& object, const CTxParam& block, HBUF32 hSoft,
+                         COLORREF crColor) {
     const HBUF32 hColor = MakeColorBuffer(hSoft, object.m_hImage, crColor);
     CImgNode* pShadow = hColor ? new CImgNode(&canvas.Document()) : nullptr;
     if (!pShadow) {
@@ -210,55 +146,104 @@ CImgNode* CToolCore::MakeShadowNode(CCanvas& canvas, CImgNode& object, const CTx
     return pShadow;
 }
 
-int CToolCore::m_fnRemoveShadowOf(CImgNode* pNode) {
-    if (pNode && pNode->m_pShadowNode) {
-        CImgNode* pShadow = pNode->m_pShadowNode;
-        pNode->m_pShadowNode = nullptr;
-        delete pShadow;
+} // namespace
+
+HBUF32 MakeSoftMask(HBUF32 hMask, int nSoftness, CTxParam& block, CSize offset, CPoint ptBase,
+                    CPoint& ptShadow) {
+    ptShadow = ptBase + offset;
+    HBUF32 hSoft = 0;
+    if (nSoftness != NoSoftMask) {
+        block.nX = Saturated(static_cast<long long>(block.nX) + offset.cx);
+        block.nY = Saturated(static_cast<long long>(block.nY) + offset.cy);
+        block.hMask = hMask;
+        if (!sel32SoftEdgeMakeMask(&block, 0, nSoftness, 0, 0, 0, 0)) {
+            block.hMask = 0;
+        }
+        hSoft = block.hMask;
+    }
+    block.nX = ptShadow.x;
+    block.nY = ptShadow.y;
+    return hSoft;
+}
+
+int CreateShadow(CTool& tool, CImgNode* pNode, int nOffsetX, int nOffsetY, const COLORREF* pcrColor,
+                 int nSoftness, int nTransparency) {
+    if (!pNode) {
+        return 1;
+    }
+    const CCanvas canvas(tool);
+    if (!canvas.HasDocument() || !pcrColor) {
+        return 0;
+    }
+    const COLORREF crColor = *pcrColor;
+    RemoveShadow(pNode);
+
+    CTxParam block = pNode->m_tx;
+    CPoint ptShadow;
+    const HBUF32 hSoft = SoftMaskOf(*pNode, nSoftness, block, CSize(nOffsetX, nOffsetY), ptShadow);
+    CImgNode* pShadow = hSoft ? MakeShadowNode(canvas, *pNode, block, hSoft, crColor) : nullptr;
+    if (!pShadow) {
+        return 0;
+    }
+    pShadow->m_fnResize(CRect(ptShadow, ShadowSizeOf(*pNode)));
+    pShadow->m_nTransparency = nTransparency;
+    pNode->m_shadow = {static_cast<double>(nOffsetX), static_cast<double>(nOffsetY),
+                       static_cast<double>(nSoftness), nTransparency, crColor};
+    return 1;
+}
+
+int CreateShadow(CTool& tool, CImgNode* pNode, const CShadowParam& param) {
+    const COLORREF crColor = param.crColor;
+    return CreateShadow(tool, pNode, Truncated(param.dOffsetX), Truncated(param.dOffsetY), &crColor,
+                        Truncated(param.dSoftness), param.nTransparency);
+}
+
+int RemoveShadow(CImgNode* pNode) {
+    if (pNode) {
+        FreeCompanion(pNode->m_pShadowNode);
     }
     return 1;
 }
 
-int CToolCore::m_fnRegenerateShadow(CImgNode* pNode) {
+int RegenerateShadow(CTool& tool, CImgNode* pNode) {
     if (!pNode || !pNode->m_pShadowNode) {
         return 1;
     }
-    CCanvas canvas(*this);
+    const CCanvas canvas(tool);
     if (!canvas.HasDocument()) {
         return 0;
     }
     const CShadowParam param = pNode->m_shadow;
     const bool bDetached = canvas.Objects().Find(pNode->m_pShadowNode) == nullptr;
-    m_fnRemoveShadowOf(pNode);
-    m_fnCreateShadow(pNode, param);
+    RemoveShadow(pNode);
+    CreateShadow(tool, pNode, param);
     // Undo events keep shadows off the page this way.
-    POSITION position =
-        bDetached && pNode->m_pShadowNode ? canvas.Objects().Find(pNode->m_pShadowNode) : nullptr;
-    if (position) {
-        canvas.Objects().RemoveAt(position);
+    if (bDetached) {
+        TakeOut(canvas.Objects(), pNode->m_pShadowNode);
     }
     return 1;
 }
 
-int CToolCore::RefreshNodeShadow(CImgNode* pNode, int nRedraw) {
+int RefreshNodeShadow(CTool& tool, CImgNode* pNode, int nRedraw) {
     if (!pNode || !pNode->m_pShadowNode) {
         return 0;
     }
     CRefresh refresh;
-    CRect rc(0, 0, 0, 0);
-    GetNodeOutlineRect(pNode, &rc);
-    refresh.Add(rc);
-    m_fnRegenerateShadow(pNode);
-    GetNodeOutlineRect(pNode, &rc);
-    refresh.Add(rc);
-    CCanvas canvas(*this);
-    if (!canvas) {
-        return 1;
-    }
-    CRect rcArea = refresh.Area();
-    canvas.View().m_fnFlushCacheRect(rcArea);
+    refresh.Add(OutlineRect(tool, pNode));
+    RegenerateShadow(tool, pNode);
+    refresh.Add(OutlineRect(tool, pNode));
+    const CCanvas canvas(tool);
     if (nRedraw == 1) {
-        canvas.View().RepaintViewRect(rcArea, 1);
+        refresh.FlushRepaint(canvas);
+    } else {
+        refresh.Flush(canvas);
     }
     return 1;
+}
+
+CShadowParam TruncatedParam(CShadowParam param) {
+    param.dOffsetX = Truncated(param.dOffsetX);
+    param.dOffsetY = Truncated(param.dOffsetY);
+    param.dSoftness = Truncated(param.dSoftness);
+    return param;
 }

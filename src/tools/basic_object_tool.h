@@ -6,9 +6,8 @@
 /// Kind 14.
 class CBasicObjectTool : public CObjectTool, public ISelectOnly {
   public:
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
     int QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) override;
-    const GUID& GetToolClassId() override;
+    const GUID& GetToolClassId() override { return tool_class::BasicObject; }
 
     /// 52. The bus kind of the host page that the tool pairs with.
     virtual int GetPanelKind();

@@ -1,23 +1,7 @@
 #include "tools/combo_tools.h"
 
 #include "host/panels.h"
-#include "host/tool_ids.h"
 #include "ops/bus.h"
-#include "tools/identity_tables.h"
-
-int CTextComboTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
-    return OwnKindOrBase<CTextShadowTool>(*this, {EditCategoryId, tool_kind::TextCombo}, category, nKind,
-                                          pResult, pExtra);
-}
-
-const GUID& CTextComboTool::GetToolClassId() { return tool_class::TextCombo; }
-
-int CAdaptiveComboTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
-    return OwnKindOrBase<CTextShadowTool>(*this, {EditCategoryId, tool_kind::AdaptiveCombo}, category, nKind,
-                                          pResult, pExtra);
-}
-
-const GUID& CAdaptiveComboTool::GetToolClassId() { return tool_class::AdaptiveCombo; }
 
 const GUID* CAdaptiveComboTool::GetGroupIdOverride() {
     IToolGroupSource* pSource = bus::FindService<IToolGroupSource>(*this, kind::PropertyArea);

@@ -1,16 +1,9 @@
 #include "tools/display_tool.h"
 
 #include "host/panels.h"
-#include "host/tool_ids.h"
-#include "ops/bus.h"
-#include "tools/identity_tables.h"
-
-int CDisplayTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
-    return OwnKindOrBase<CObjectTool>(*this, {CategoryId, tool_kind::Display}, category, nKind, pResult,
-                                      pExtra);
-}
-
-const GUID& CDisplayTool::GetToolClassId() { return tool_class::Display; }
+#include "ops/current_tool.h"
+#include "ops/hit_test.h"
+#include "tools/identity.h"
 
 int CDisplayTool::OnLButtonDown(UINT nFlags, CPoint point) {
     CObjectTool::OnLButtonDown(nFlags, point);
@@ -22,33 +15,10 @@ int CDisplayTool::OnLButtonUp(UINT nFlags, CPoint point) {
     return 1;
 }
 
-int CDisplayTool::GetPanelKind() { return panel_kind::DisplayTool; }
-
-int CDisplayPageTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
-    return OwnKindOrBase<CDisplayTool>(*this, {CategoryId, tool_kind::DisplayPage}, category, nKind, pResult,
-                                       pExtra);
-}
-
-const GUID& CDisplayPageTool::GetToolClassId() { return tool_class::DisplayPage; }
-
-const GUID& CDisplayPageTool::GetToolGroupId() { return GroupIdOr(tool_group::Object); }
-
-int CDisplayPageTool::GetPanelKind() { return panel_kind::Object; }
-
-int CTextDisplayTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
-    return OwnKindOrBase<CDisplayTool>(*this, {CategoryId, tool_kind::TextDisplay}, category, nKind, pResult,
-                                       pExtra);
-}
-
-const GUID& CTextDisplayTool::GetToolClassId() { return tool_class::TextDisplay; }
-
-const GUID& CTextDisplayTool::GetToolGroupId() { return GroupIdOr(tool_group::Text); }
-
-int CTextDisplayTool::GetPanelKind() { return panel_kind::Text; }
+int CDisplayTool::GetPanelKind() { return IdentityOf(*this).nPanelKind; }
 
 int CTextDisplayTool::OnLButtonDown(UINT nFlags, CPoint point) {
-    CCanvas canvas(*this);
-    m_bSelectedAtPress = canvas.HasDocument() && !canvas.Selection().IsEmpty();
+    m_bSelectedAtPress = CCanvas(*this).HasSelection();
     return CDisplayTool::OnLButtonDown(nFlags, point);
 }
 
@@ -63,7 +33,7 @@ int CTextDisplayTool::ShowTextPage() {
 
 // The input of the current tool when that is another one; null when it is this, or lacks it.
 IToolInput* CTextDisplayTool::OtherToolInput() {
-    CListenerObject* const pTool = CurrentTool();
+    CListenerObject* const pTool = CurrentTool(*this);
     return pTool != this ? bus::Query<IToolInput>(pTool) : nullptr;
 }
 
@@ -78,7 +48,7 @@ int CTextDisplayTool::OnLButtonDblClk(UINT nFlags, CPoint point) {
 }
 
 bool CTextDisplayTool::IsClickOnNothing(CPoint point) {
-    return !IsMoving() && !IsResizing() && !m_bSelectedAtPress && !NodeUnderPoint(point);
+    return !IsMoving() && !IsResizing() && !m_bSelectedAtPress && !NodeUnderPoint(*this, point);
 }
 
 int CTextDisplayTool::OnLButtonUp(UINT nFlags, CPoint point) {

@@ -6,8 +6,7 @@
 /// Kind 15.
 class CDisplayTool : public CObjectTool {
   public:
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
-    const GUID& GetToolClassId() override;
+    const GUID& GetToolClassId() override { return tool_class::Display; }
 
     /// Presses and releases are always taken.
     int OnLButtonDown(UINT nFlags, CPoint point) override;
@@ -20,19 +19,13 @@ class CDisplayTool : public CObjectTool {
 /// Kind 19: of the object page.
 class CDisplayPageTool : public CDisplayTool {
   public:
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
-    const GUID& GetToolClassId() override;
-    const GUID& GetToolGroupId() override;
-    int GetPanelKind() override;
+    const GUID& GetToolClassId() override { return tool_class::DisplayPage; }
 };
 
 /// Kind 24: of the text page. A click on empty ground goes on to the tool that is current by then.
 class CTextDisplayTool : public CDisplayTool {
   public:
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
-    const GUID& GetToolClassId() override;
-    const GUID& GetToolGroupId() override;
-    int GetPanelKind() override;
+    const GUID& GetToolClassId() override { return tool_class::TextDisplay; }
 
     int OnLButtonDblClk(UINT nFlags, CPoint point) override;
     int OnLButtonDown(UINT nFlags, CPoint point) override;

@@ -6,8 +6,7 @@
 /// Kind 16.
 class CFrameToolBase : public CObjectTool {
   public:
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
-    const GUID& GetToolClassId() override;
+    const GUID& GetToolClassId() override { return tool_class::FrameBase; }
 
     /// 52. The bus kind of the host page that the tool pairs with.
     virtual int GetPanelKind();
@@ -16,8 +15,5 @@ class CFrameToolBase : public CObjectTool {
 /// Kind 20: the one that the host receives.
 class CFrameTool : public CFrameToolBase {
   public:
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
-    const GUID& GetToolClassId() override;
-    const GUID& GetToolGroupId() override;
-    int GetPanelKind() override;
+    const GUID& GetToolClassId() override { return tool_class::Frame; }
 };

@@ -3,9 +3,8 @@
 #include <vector>
 
 #include "host/document_service.h"
-#include "host/kinds.h"
+#include "host/tool.h"
 #include "ops/bus.h"
-#include "tools/tool_listener.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include "host/listener.h"
 
-class CToolListener;
+class CTool;
 
 /// The owner of an embedded tool and how often the tool has been activated for it. While active, the embedded
 /// tool is linked to all that its owner is linked to and counts as the active listener.
@@ -11,11 +11,11 @@ class CListenerLinker {
   public:
     virtual ~CListenerLinker() = default;
     /// The tool that is linked.
-    virtual CToolListener* GetEmbedded() = 0;
+    virtual CTool* GetEmbedded() = 0;
 
     /// Not owned; null for none.
-    void SetOwner(CToolListener* pOwner) { m_pOwner = pOwner; }
-    CToolListener* GetOwner() const { return m_pOwner; }
+    void SetOwner(CTool* pOwner) { m_pOwner = pOwner; }
+    CTool* GetOwner() const { return m_pOwner; }
     bool IsActive() const { return m_nActivations > 0; }
 
     /// Nested: the first one links, the last one unlinks.
@@ -29,7 +29,7 @@ class CListenerLinker {
     void Connect();
     void Disconnect();
 
-    CToolListener* m_pOwner = nullptr;
+    CTool* m_pOwner = nullptr;
     int m_nActivations = 0;
 };
 

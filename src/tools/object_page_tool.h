@@ -6,8 +6,5 @@
 /// Kind 18.
 class CObjectPageTool : public CBasicObjectTool {
   public:
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
-    const GUID& GetToolClassId() override;
-    const GUID& GetToolGroupId() override;
-    int GetPanelKind() override;
+    const GUID& GetToolClassId() override { return tool_class::ObjectPage; }
 };

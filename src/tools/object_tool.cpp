@@ -1,40 +1,30 @@
 #include "tools/object_tool.h"
 
 #include "host/tool_ids.h"
+#include "ops/cursors.h"
 #include "ops/drawing.h"
-#include "tools/identity_tables.h"
+#include "ops/hit_test.h"
+#include "ops/marks.h"
+#include "ops/objects/handle_resize.h"
 
 namespace {
 
-constexpr std::array<KindRow, 1> Kinds = {{{CategoryId, kind::Any}}};
-
 constexpr int MarkMargin = HandleHalfSize; ///< client pixels that the handles reach beyond the node
 constexpr int MarkStripWidth = 2 * HandleHalfSize;
+
 } // namespace
-
-int CObjectTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
-    if (MatchKind(Kinds, category, nKind, pResult, pExtra)) {
-        return 1;
-    }
-    return CToolBase::IsKindOf(category, nKind, pResult, pExtra);
-}
-
-int CObjectTool::QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) {
-    return CToolBase::QueryInterface(iid, ppInterface, pExtra);
-}
 
 void CObjectTool::OnSetCursor(CPoint* pPoint) {
     if (IsResizing()) {
         return;
     }
-    CCanvas canvas(*this);
-    CImgNode* pOnly = OnlySelectedNode(canvas);
-    const int nHandle = pOnly && pPoint ? HandleUnderPoint(pOnly, *pPoint) : NoHandle;
+    CImgNode* pOnly = CCanvas(*this).OnlySelected();
+    const int nHandle = pOnly && pPoint ? HandleUnderPoint(*this, pOnly, *pPoint) : NoHandle;
     if (nHandle == NoHandle) {
         CToolBase::OnSetCursor(pPoint);
         return;
     }
-    ShowCursor(Handles[static_cast<std::size_t>(nHandle)].nCursorId);
+    ShowCursor(*this, HandleOf(nHandle).nCursorId);
 }
 
 int CObjectTool::GetNodeMarkRect(CImgNode* pNode, RECT* pRect) {
@@ -52,8 +42,7 @@ int CObjectTool::DrawSelectionMark(CDC* pDC, CPoint* pOrigin, CImgNode* pNode) {
     if (!pDC || !pOrigin || !pNode) {
         return 0;
     }
-    const Corners corners = Shifted(CornersOfNode(pNode), *pOrigin);
-    DrawOutlineAndHandles(*pDC, corners);
+    DrawOutlineAndHandles(*pDC, Shifted(CornersOfNode(*this, pNode), *pOrigin));
     return 1;
 }
 
@@ -62,17 +51,15 @@ int CObjectTool::InvalidateSelectionMark(CImgNode* pNode) {
     if (!pNode || !GetNodeMarkRect(pNode, &rcMark)) {
         return 0;
     }
-    return InvalidateStrips(rcMark, MarkStripWidth);
+    return InvalidateStrips(*this, rcMark, MarkStripWidth);
 }
 
 int CObjectTool::HitTestSelected(CPoint* pPoint, CImgNode* pNode) {
     if (!pPoint || !pNode) {
         return 0;
     }
-    return PtInNodeOutline(pPoint, pNode) || HandleUnderPoint(pNode, *pPoint) != NoHandle ? 1 : 0;
+    return PtInNodeOutline(pPoint, pNode) || HandleUnderPoint(*this, pNode, *pPoint) != NoHandle ? 1 : 0;
 }
-
-const GUID& CObjectTool::GetToolClassId() { return tool_class::Object; }
 
 int CObjectTool::OnToolActivate(CListenerObject* pOther, int nActivate, int nRedraw) {
     if (nActivate != 1) {
@@ -85,9 +72,8 @@ int CObjectTool::OnLButtonDown(UINT nFlags, CPoint point) {
     if (IsArrowKeyHeld()) {
         return 1;
     }
-    CCanvas canvas(*this);
-    CImgNode* pOnly = OnlySelectedNode(canvas);
-    const int nHandle = pOnly ? HandleUnderPoint(pOnly, point) : NoHandle;
+    CImgNode* pOnly = CCanvas(*this).OnlySelected();
+    const int nHandle = pOnly ? HandleUnderPoint(*this, pOnly, point) : NoHandle;
     if (nHandle == NoHandle) {
         return CToolBase::OnLButtonDown(nFlags, point);
     }
@@ -109,9 +95,9 @@ int CObjectTool::OnMouseMove(UINT nFlags, CPoint point) {
     }
     m_ptPrevious = m_ptCurrent;
     m_ptCurrent = point;
-    CCanvas canvas(*this);
-    if (m_ptPrevious != m_ptCurrent && canvas && !canvas.Selection().IsEmpty()) {
-        StepResize(canvas.Selection().GetHead());
+    CImgNode* pNode = CCanvas(*this).FirstSelected();
+    if (m_ptPrevious != m_ptCurrent && pNode) {
+        StepResize(pNode);
     }
     return 1;
 }
@@ -123,14 +109,6 @@ int CObjectTool::OnRButtonDown(UINT nFlags, CPoint point) {
     return CToolBase::OnRButtonDown(nFlags, point);
 }
 
-int CObjectTool::CanRunCommand() { return IsResizing() ? 0 : CToolBase::CanRunCommand(); }
-
-int CObjectTool::HandleUnderPoint(CImgNode* pNode, CPoint point) {
-    CCanvas canvas(*this);
-    if (!canvas || OnlySelectedNode(canvas) != pNode) {
-        return NoHandle;
-    }
-    return HandleAt(CornersOfNode(pNode), point);
+CTextNode* CObjectTool::ResizeTextNode(CImgNode* pNode, RECT* pRect, int nHandle) {
+    return ResizedText(*this, pNode, pRect, nHandle);
 }
-
-CObjectTool* CToolCore::AsObjectTool() { return static_cast<CObjectTool*>(this); }

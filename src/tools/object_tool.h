@@ -5,21 +5,19 @@
 
 class CObjectTool : public CToolBase {
   public:
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
-    int QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) override;
     void OnSetCursor(CPoint* pPoint) override;
     int GetNodeMarkRect(CImgNode* pNode, RECT* pRect) override;
     int DrawSelectionMark(CDC* pDC, CPoint* pOrigin, CImgNode* pNode) override;
     int InvalidateSelectionMark(CImgNode* pNode) override;
     int HitTestSelected(CPoint* pPoint, CImgNode* pNode) override;
-    const GUID& GetToolClassId() override;
+    const GUID& GetToolClassId() override { return tool_class::Object; }
 
     int OnToolActivate(CListenerObject* pOther, int nActivate, int nRedraw) override;
     int OnLButtonDown(UINT nFlags, CPoint point) override;
     int OnLButtonUp(UINT nFlags, CPoint point) override;
     int OnMouseMove(UINT nFlags, CPoint point) override;
     int OnRButtonDown(UINT nFlags, CPoint point) override;
-    int CanRunCommand() override;
+    int CanRunCommand() override { return IsResizing() ? 0 : CToolBase::CanRunCommand(); }
 
     /// 51. A new text object for the rectangle (document units) that a drag of the handle gave, owned by the
     /// caller; null for anything but a text object.
@@ -27,8 +25,6 @@ class CObjectTool : public CToolBase {
 
   protected:
     bool IsResizing() const { return m_nResizing == 1; }
-    /// 0 to 7, or NoHandle: also when the node is not the only selected one.
-    int HandleUnderPoint(CImgNode* pNode, CPoint point);
 
   private:
     void StartResize(CPoint point, int nHandle);
@@ -38,10 +34,10 @@ class CObjectTool : public CToolBase {
 
     Corners CornersAt(const CCanvas& canvas, CImgNode* pNode, CPoint point);
     void RemoveHandles(CImgNode* pNode);
-    void DrawOutline(CCanvas& canvas, const Corners& corners);
+    void DrawOutline(const CCanvas& canvas, const Corners& corners);
     void ApplyResize(CImgNode* pNode);
-    CTextNode* ResizedText(const CTextNode& text, int nPixelSize, int nHandle);
-    void ResizeTextTo(CTextNode& text, const CRect& rcDoc);
+    CRect ResizedRect(const CCanvas& canvas, CImgNode* pNode);
+    void ResizeNode(CImgNode* pNode, CRect rcDoc);
 
     int m_nFirstStep = 1;
     CPoint m_ptPrevious; ///< client pixels; so the next

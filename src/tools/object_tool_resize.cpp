@@ -1,7 +1,9 @@
 // The resize drag: start, steps, finish, cancel.
 #include "ops/drawing.h"
-#include "ops/refresh.h"
+#include "ops/objects/handle_resize.h"
+#include "ops/objects/resize.h"
 #include "ops/resize_geometry.h"
+#include "ops/view_margin.h"
 #include "text/object/text_attributes.h"
 #include "tools/object_tool.h"
 #include "undo/recorder.h"
@@ -9,12 +11,9 @@
 
 namespace {
 
-constexpr int OutlineMargin = 8; ///< client pixels repainted round the outline
-
-CRect AreaRound(Corners corners) {
-    CRect rc;
-    ::GetBoundRect(corners.data(), static_cast<int>(corners.size()), &rc);
-    rc.InflateRect(OutlineMargin, OutlineMargin);
+CRect AreaRound(const Corners& corners) {
+    CRect rc = BoundsOf(corners);
+    rc.InflateRect(ViewMargin, ViewMargin);
     return rc;
 }
 
@@ -30,13 +29,12 @@ void CObjectTool::StartResize(CPoint point, int nHandle) {
 }
 
 Corners CObjectTool::CornersAt(const CCanvas& canvas, CImgNode* pNode, CPoint point) {
-    CRect rcNode(0, 0, 0, 0);
-    GetNodeRect(pNode, &rcNode);
-    return ResizedCorners(rcNode, ClampedPointer(point, m_nHandle, canvas.ClientRect()), m_nHandle);
+    return ResizedCorners(NodeRect(*this, pNode), ClampedPointer(point, m_nHandle, canvas.ClientRect()),
+                          m_nHandle);
 }
 
 void CObjectTool::StepResize(CImgNode* pNode) {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (!canvas) {
         return;
     }
@@ -56,7 +54,7 @@ void CObjectTool::RemoveHandles(CImgNode* pNode) {
 
 // The outline is painted from the cache, which gets its true picture back at once. The window keeps showing
 // the outline until the next step or the finish paints over it.
-void CObjectTool::DrawOutline(CCanvas& canvas, const Corners& corners) {
+void CObjectTool::DrawOutline(const CCanvas& canvas, const Corners& corners) {
     CRect rcArea = AreaRound(corners);
     {
         CCachePicture picture(canvas, rcArea);
@@ -80,19 +78,21 @@ int CObjectTool::FinishResize(CPoint point) {
     m_ptPrevious = m_ptCurrent;
     m_ptCurrent = point;
     ReleaseMouse();
-    CUndoRecorder<CResizeChangedUndoEvent> recorder(AsObjectTool());
-    if (!recorder.CaptureBefore()) {
+    CUndoRecorder<CResizeChangedUndoEvent> recorder;
+    if (!recorder.CaptureBefore(*this)) {
         return 0;
     }
-    CCanvas canvas(*this);
-    if (canvas && !canvas.Selection().IsEmpty()) {
-        ApplyResize(canvas.Selection().GetHead());
+    if (CImgNode* pNode = CCanvas(*this).FirstSelected()) {
+        ApplyResize(pNode);
     }
-    return recorder.RecordChange() ? 1 : 0;
+    return recorder.RecordChange(*this) == Recorded::NoCapture ? 0 : 1;
 }
 
 void CObjectTool::ApplyResize(CImgNode* pNode) {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
+    if (!canvas) {
+        return;
+    }
     RemoveHandles(pNode);
     canvas.View().RepaintViewRect(AreaRound(CornersAt(canvas, pNode, m_ptPrevious)), 1);
 
@@ -100,22 +100,32 @@ void CObjectTool::ApplyResize(CImgNode* pNode) {
     CNodeRefList nodes;
     nodes.AddTail(pNode);
     CRefresh refresh;
-    refresh.Add(AreaOf(nodes));
-    Corners corners = CornersAt(canvas, pNode, m_ptCurrent);
-    CRect rcClient;
-    ::GetBoundRect(corners.data(), static_cast<int>(corners.size()), &rcClient);
-    const CRect rcDoc(canvas.ToDocument(rcClient.TopLeft()), canvas.ToDocument(rcClient).Size());
-    if (CTextNode* pText = AsText(pNode)) {
-        ResizeTextTo(*pText, rcDoc);
-    } else {
-        m_fnResizeObject(pNode, rcDoc);
-    }
-
-    refresh.Add(AreaOf(nodes));
-    refresh.FlushMarkRepaint(canvas.View(), *this);
+    refresh.Add(AreaOf(*this, nodes));
+    ResizeNode(pNode, ResizedRect(canvas, pNode));
+    refresh.Add(AreaOf(*this, nodes));
+    refresh.FlushMarkRepaint(canvas, *this);
     OnNodeResized(pNode);
     SyncAttributePanels();
     NotifyChangedThenRedrawn(*this);
+}
+
+// Document units: the corner converts as a point, the size as that of the converted rectangle.
+CRect CObjectTool::ResizedRect(const CCanvas& canvas, CImgNode* pNode) {
+    const CRect rcClient = BoundsOf(CornersAt(canvas, pNode, m_ptCurrent));
+    return CRect(canvas.ToDocument(rcClient.TopLeft()), canvas.ToDocument(rcClient).Size());
+}
+
+// A text object's size is its font's: only a rebuilt text can take the place of the old one.
+void CObjectTool::ResizeNode(CImgNode* pNode, CRect rcDoc) {
+    CTextNode* const pText = AsText(pNode);
+    if (!pText) {
+        ResizeObject(*this, pNode, rcDoc);
+        return;
+    }
+    const std::unique_ptr<CTextNode> pResized(ResizeTextNode(pText, &rcDoc, m_nHandle));
+    if (pResized) {
+        PlaceResizedText(*this, *pText, *pResized);
+    }
 }
 
 // The cache holds the true picture already; the window only has to show it again.
@@ -125,7 +135,7 @@ void CObjectTool::CancelResize() {
     }
     m_nResizing = 0;
     ReleaseMouse();
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (canvas && m_nFirstStep == 0) {
         canvas.View().InvalidateRect(&m_rcLastOutline, FALSE);
     }

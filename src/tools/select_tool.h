@@ -6,7 +6,5 @@
 /// Kind 13.
 class CSelectTool : public CObjectTool {
   public:
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
-    const GUID& GetToolClassId() override;
-    const GUID& GetToolGroupId() override;
+    const GUID& GetToolClassId() override { return tool_class::Select; }
 };

@@ -1,16 +1,6 @@
 #include "tools/shadow_tool.h"
 
-#include "host/tool_ids.h"
-#include "tools/identity_tables.h"
-
-int CShadowTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
-    return OwnKindOrBase<CObjectTool>(*this, {CategoryId, tool_kind::Shadow}, category, nKind, pResult,
-                                      pExtra);
-}
-
-const GUID& CShadowTool::GetToolClassId() { return tool_class::Shadow; }
-
-int CShadowTool::GetPanelKind() { return panel_kind::ShadowTool; }
+#include "tools/identity.h"
 
 int CShadowTool::InvalidateShadowMark(CImgNode* pNode) {
     CRect rc;
@@ -19,3 +9,5 @@ int CShadowTool::InvalidateShadowMark(CImgNode* pNode) {
     }
     return FlushViewRect(&rc);
 }
+
+int CShadowTool::GetPanelKind() { return IdentityOf(*this).nPanelKind; }

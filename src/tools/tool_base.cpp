@@ -2,12 +2,12 @@
 
 #include <cstdlib>
 
-#include "host/tool_ids.h"
-#include "tools/identity_tables.h"
+#include "ops/current_tool.h"
+#include "ops/cursors.h"
+#include "ops/hit_test.h"
 
 namespace {
 
-constexpr std::array<KindRow, 1> Kinds = {{{CategoryId, kind::Any}}};
 constexpr int MoveThreshold = 2; ///< client pixels; a press moves beyond them before it becomes a drag
 constexpr int JitterLimit = 1;   ///< client pixels; smaller changes of the pointer are ignored
 
@@ -15,35 +15,22 @@ constexpr int JitterLimit = 1;   ///< client pixels; smaller changes of the poin
 
 CToolBase::~CToolBase() {
     m_pMoveAfter.reset();
-    m_pMoveBefore.reset();
-    m_pNudgeBefore.reset();
+    m_moveRecorder.Drop();
+    m_nudgeRecorder.Drop();
     m_movedNodes.RemoveAll();
 }
 
-int CToolBase::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
-    if (MatchKind(Kinds, category, nKind, pResult, pExtra)) {
-        return 1;
-    }
-    return CToolCore::IsKindOf(category, nKind, pResult, pExtra);
-}
-
-int CToolBase::QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) {
-    return CToolCore::QueryInterface(iid, ppInterface, pExtra);
-}
-
-const GUID& CToolBase::GetToolClassId() { return tool_class::Base; }
-
 void CToolBase::OnSetCursor(CPoint* pPoint) {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (!pPoint || !canvas) {
         return;
     }
-    if (m_pNudgeBefore && !canvas.ClientRect().PtInRect(*pPoint)) {
-        ShowCursor(cursor_id::Arrow);
+    if (m_nudgeRecorder.HasCapture() && !canvas.ClientRect().PtInRect(*pPoint)) {
+        ShowCursor(*this, cursor_id::Arrow);
     } else if (IsPressed() && IsMoving()) {
-        ShowCursor(cursor_id::SizeAll);
-    } else if (IsOnSelection(*pPoint)) {
-        ShowCursor(canvas.Selection().GetCount() == 1 ? cursor_id::SizeAll : cursor_id::Arrow);
+        ShowCursor(*this, cursor_id::SizeAll);
+    } else if (IsOnSelection(*this, *pPoint)) {
+        ShowCursor(*this, canvas.Selection().GetCount() == 1 ? cursor_id::SizeAll : cursor_id::Arrow);
     } else {
         CToolCore::OnSetCursor(pPoint);
     }
@@ -53,7 +40,7 @@ int CToolBase::OnToolActivate(CListenerObject* pOther, int nActivate, int nRedra
     if (nActivate != 1) {
         CancelMove();
         // A host leaves the tool before it closes a page, whose nodes the capture holds.
-        m_pNudgeBefore.reset();
+        m_nudgeRecorder.Drop();
     }
     return CToolCore::OnToolActivate(pOther, nActivate, nRedraw);
 }
@@ -64,13 +51,13 @@ int CToolBase::OnLButtonDown(UINT nFlags, CPoint point) {
     }
     m_nPressOnSelection = 1;
     m_movedNodes.RemoveAll();
-    if (!IsOnSelection(point)) {
+    if (!IsOnSelection(*this, point)) {
         const int nAnswer = CToolCore::OnLButtonDown(nFlags, point);
-        if (!IsCurrentTool()) {
+        if (!IsCurrentTool(*this)) {
             return nAnswer;
         }
         m_nPressOnSelection = 0;
-        if (!IsOnSelection(point)) {
+        if (!IsOnSelection(*this, point)) {
             return nAnswer;
         }
     }
@@ -124,10 +111,8 @@ int CToolBase::OnRButtonDown(UINT nFlags, CPoint point) {
     return CToolCore::OnRButtonDown(nFlags, point);
 }
 
-int CToolBase::CanRunCommand() { return IsMoving() ? 0 : CToolCore::CanRunCommand(); }
-
 bool CToolBase::IsNewerMoveQueued() {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     MSG message;
     return canvas && PeekMessageA(&message, canvas.View().m_hWnd, WM_MOUSEMOVE, WM_MOUSEMOVE, PM_NOREMOVE);
 }
@@ -137,7 +122,7 @@ bool CToolBase::IsBeyondThreshold(CSize distance) {
 }
 
 void CToolBase::CaptureMouse() {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (canvas) {
         ::SetCapture(canvas.View().m_hWnd);
     }

@@ -3,18 +3,18 @@
 
 #include <memory>
 
+#include "host/tool_ids.h"
 #include "ops/refresh.h"
 #include "tools/tool_core.h"
 #include "undo/move_changed_event.h"
+#include "undo/recorder.h"
 
 class CToolBase : public CToolCore {
   public:
     ~CToolBase() override;
 
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
-    int QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) override;
     void OnSetCursor(CPoint* pPoint) override;
-    const GUID& GetToolClassId() override;
+    const GUID& GetToolClassId() override { return tool_class::Base; }
 
     int OnToolActivate(CListenerObject* pOther, int nActivate, int nRedraw) override;
     int OnLButtonDown(UINT nFlags, CPoint point) override;
@@ -24,7 +24,7 @@ class CToolBase : public CToolCore {
     int OnKeyDown(UINT nChar, UINT nRepeat, UINT nFlags) override;
     int OnKeyUp(UINT nChar, UINT nRepeat, UINT nFlags) override;
     int KeepNodeInView(CImgNode* pNode) override;
-    int CanRunCommand() override;
+    int CanRunCommand() override { return IsMoving() ? 0 : CToolCore::CanRunCommand(); }
 
   protected:
     enum class MoveStep { Interim, Final };
@@ -53,7 +53,7 @@ class CToolBase : public CToolCore {
     void SetAnchor(CImgNode* pAnchor);
     bool CaptureMoveBefore();
     void DragCopies();
-    void CopySelectedNodes(CCanvas& canvas, CNodeRefList& copies);
+    void CopySelectedNodes(const CCanvas& canvas, CNodeRefList& copies);
 
     CSize WantedDelta(const CCanvas& canvas) const;
     CSize KeptInView(const CCanvas& canvas, CSize delta);
@@ -63,7 +63,8 @@ class CToolBase : public CToolCore {
     void CountNudgeKey(UINT nChar);
     static bool IsArrowKey(UINT nChar);
     bool IsArrowKeyQueued();
-    int StepNudge(CCanvas& canvas, UINT nChar);
+    int StepNudge(const CCanvas& canvas, UINT nChar);
+    void AimNudge(const CCanvas& canvas, UINT nChar);
     void FinishNudge();
 
     int m_nButtonHeld = 0;
@@ -74,11 +75,11 @@ class CToolBase : public CToolCore {
     int m_nPressOnSelection = 1;   ///< 1 when the press landed on what was already selected
     int m_nCopied = 0;             ///< 1 once the gesture has copied the selection
     int m_nSnapshotTaken = 0;
-    std::unique_ptr<CMoveChangedUndoEvent> m_pMoveBefore;
+    CUndoRecorder<CMoveChangedUndoEvent> m_moveRecorder;
     std::unique_ptr<CMoveChangedUndoEvent> m_pMoveAfter;
     int m_nNudgeKey = 0;
     int m_nNudgeRepeat = 0;
-    std::unique_ptr<CMoveChangedUndoEvent> m_pNudgeBefore;
+    CUndoRecorder<CMoveChangedUndoEvent> m_nudgeRecorder;
     CImgNode* m_pAnchor = nullptr; ///< the first selected node at the press
     CSize m_anchorOffset;          ///< document units: press point minus the anchor's position
 };

@@ -3,14 +3,13 @@
 #include <limits>
 
 #include "ops/groups.h"
-#include "ops/refresh.h"
+#include "ops/nodes.h"
+#include "ops/objects/offset.h"
 #include "ops/saturate.h"
+#include "ops/view_margin.h"
 #include "tools/tool_base.h"
-#include "undo/recorder.h"
 
 namespace {
-
-constexpr int ViewEdgeMargin = 8; ///< client pixels of a moved node that stay inside the view
 
 // One axis of the step: a delta that rounds to nothing still moves one pixel in the pointer's direction, and
 // an axis on which the pointer stands where it was pressed does not move at all.
@@ -41,16 +40,16 @@ struct Extremes {
 
 // One axis: the near edge is applied first, so that the far one holds where both cannot.
 int Limited(int nDelta, int nLeastFar, int nGreatestNear, int nViewNear, int nViewFar) {
-    const auto least = static_cast<long long>(nViewNear) + ViewEdgeMargin - nLeastFar;
-    const auto most = static_cast<long long>(nViewFar) - ViewEdgeMargin - nGreatestNear;
+    const auto least = static_cast<long long>(nViewNear) + ViewMargin - nLeastFar;
+    const auto most = static_cast<long long>(nViewFar) - ViewMargin - nGreatestNear;
     return Saturated(std::min(std::max<long long>(nDelta, least), most));
 }
 
 } // namespace
 
 void CToolBase::StartPress(CPoint point) {
-    CCanvas canvas(*this);
-    if (!canvas || canvas.Selection().IsEmpty()) {
+    const CCanvas canvas(*this);
+    if (!canvas || !canvas.HasSelection()) {
         return;
     }
     m_nButtonHeld = 1;
@@ -59,12 +58,12 @@ void CToolBase::StartPress(CPoint point) {
     m_ptLast = point;
     m_nCopied = 0;
     m_nSnapshotTaken = 0;
-    SetAnchor(canvas.Selection().GetHead());
+    SetAnchor(canvas.FirstSelected());
 }
 
 // The anchor keeps its distance to the pointer, in document units, throughout the drag.
 void CToolBase::SetAnchor(CImgNode* pAnchor) {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     m_pAnchor = pAnchor;
     if (canvas && pAnchor) {
         m_anchorOffset = canvas.ToDocument(m_ptPress) - CPoint(pAnchor->m_tx.nX, pAnchor->m_tx.nY);
@@ -81,67 +80,53 @@ int CToolBase::StartMove() {
     if (m_nSnapshotTaken == 0 && !CaptureMoveBefore()) {
         return 0;
     }
-    CCanvas canvas(*this);
-    if (canvas) {
-        m_fnCopySelection(canvas, m_movedNodes);
-    }
+    m_fnCopySelection(m_movedNodes);
     DeselectAll(1);
     return 1;
 }
 
 bool CToolBase::CaptureMoveBefore() {
     m_nSnapshotTaken = 1;
-    m_pMoveBefore = CaptureState<CMoveChangedUndoEvent>(AsObjectTool());
-    return m_pMoveBefore != nullptr;
+    return m_moveRecorder.CaptureBefore(*this);
 }
 
 // The copies take the selection's place and are what moves; the copied nodes stay where they are.
 void CToolBase::DragCopies() {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (!canvas) {
         return;
     }
-    CRefresh refresh;
-    CRect rcBefore(0, 0, 0, 0);
-    GetSelectionOutlineRect(&rcBefore);
-    refresh.Add(rcBefore);
-
+    CTouchedArea area(*this);
     CNodeRefList copies;
     CopySelectedNodes(canvas, copies);
-    m_fnKeepExcludedNodeInFront(canvas);
+    m_fnKeepExcludedNodeInFront();
     ClearSelection();
     AddToSelection(copies);
-
-    CRect rcAfter(0, 0, 0, 0);
-    GetSelectionOutlineRect(&rcAfter);
-    refresh.Add(rcAfter);
-    refresh.FlushRepaint(canvas.View());
+    area.After().FlushRepaint(canvas);
     SyncAttributePanels();
-    SetAnchor(canvas.Selection().IsEmpty() ? nullptr : canvas.Selection().GetHead());
+    SetAnchor(canvas.FirstSelected());
     NotifyChangedThenRedrawn(*this);
 }
 
 // From the back of the page to its front, so that the copies keep their order. A node that cannot be copied
 // is skipped.
-void CToolBase::CopySelectedNodes(CCanvas& canvas, CNodeRefList& copies) {
+void CToolBase::CopySelectedNodes(const CCanvas& canvas, CNodeRefList& copies) {
     CNodeRefList selected;
-    for (POSITION position = canvas.Objects().GetTailPosition(); position;) {
-        CImgNode* pNode = canvas.Objects().GetPrev(position);
+    for (CImgNode* pNode : Backwards(canvas.Objects())) {
         if (canvas.IsSelected(pNode)) {
             selected.AddTail(pNode);
         }
     }
-    for (POSITION position = selected.GetHeadPosition(); position;) {
-        CImgNode* pCopy = CopyObject(*selected.GetNext(position), &CImgNode::m_fnDuplicateImageNode);
-        if (pCopy) {
-            AddGroupAtHead(canvas.Objects(), pCopy);
+    for (CImgNode* pNode : Each(selected)) {
+        if (CImgNode* pCopy = CopyGroup(*pNode, &CImgNode::m_fnDuplicateImageNode)) {
+            AddGroupAtHead(canvas.Objects(), *pCopy);
             copies.AddTail(pCopy);
         }
     }
 }
 
 void CToolBase::StepMove(MoveStep step) {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (!canvas) {
         return;
     }
@@ -181,10 +166,8 @@ CSize CToolBase::KeptInView(const CCanvas& canvas, CSize delta) {
         return delta;
     }
     Extremes extremes;
-    for (POSITION position = m_movedNodes.GetHeadPosition(); position;) {
-        CRect rc;
-        GetNodeRect(m_movedNodes.GetNext(position), &rc);
-        extremes.Add(rc);
+    for (CImgNode* pNode : Each(m_movedNodes)) {
+        extremes.Add(NodeRect(*this, pNode));
     }
     const CRect rcView = canvas.ClientRect();
     return CSize(Limited(delta.cx, extremes.nLeastRight, extremes.nGreatestLeft, rcView.left, rcView.right),
@@ -194,30 +177,23 @@ CSize CToolBase::KeptInView(const CCanvas& canvas, CSize delta) {
 // The last point follows the first node as it really moved, so that rounding does not add up.
 void CToolBase::MoveNodes(const CCanvas& canvas, CSize delta, CRefresh& refresh) {
     const CSize docDelta = canvas.DeltaToDocument(delta);
-    const POSITION first = m_movedNodes.GetHeadPosition();
-    for (POSITION position = first; position;) {
-        const bool bFirst = position == first;
-        CImgNode* pNode = m_movedNodes.GetNext(position);
-        CRect rcOld;
-        GetNodeRect(pNode, &rcOld);
+    bool bFirst = true;
+    for (CImgNode* pNode : Each(m_movedNodes)) {
+        const CPoint ptOld = NodeRect(*this, pNode).TopLeft();
         AddMovedArea(pNode, refresh);
-        m_fnOffsetObject(pNode, docDelta);
+        OffsetObject(pNode, docDelta);
         AddMovedArea(pNode, refresh);
         if (bFirst) {
-            CRect rcNew;
-            GetNodeRect(pNode, &rcNew);
-            m_ptLast = rcNew.TopLeft() - (rcOld.TopLeft() - m_ptPress);
+            m_ptLast = NodeRect(*this, pNode).TopLeft() - (ptOld - m_ptPress);
+            bFirst = false;
         }
     }
 }
 
 void CToolBase::AddMovedArea(CImgNode* pNode, CRefresh& refresh) {
-    const bool bOnly = m_movedNodes.GetCount() == 1;
-    CRect rc(0, 0, 0, 0);
-    bOnly ? GetNodeMarkRect(pNode, &rc) : GetNodeRect(pNode, &rc);
-    refresh.Add(rc);
-    bOnly ? GetNodeOutlineMarkRect(pNode, &rc) : GetNodeOutlineRect(pNode, &rc);
-    refresh.Add(rc);
+    const Shown shown = ShownAs(m_movedNodes);
+    refresh.Add(MarkRect(*this, pNode, shown));
+    refresh.Add(OutlineRect(*this, pNode, shown));
 }
 
 int CToolBase::FinishMove(CPoint point) {
@@ -227,12 +203,8 @@ int CToolBase::FinishMove(CPoint point) {
         return 0;
     }
     StepMove(MoveStep::Final);
-    m_pMoveAfter = CaptureState<CMoveChangedUndoEvent>(AsObjectTool());
-    if (!m_pMoveAfter) {
+    if (m_moveRecorder.RecordChange(*this, m_pMoveAfter) == Recorded::NoCapture) {
         return 0;
-    }
-    if (m_pMoveBefore && !m_pMoveBefore->m_fnIsSameState(m_pMoveAfter.get())) {
-        RecordEvent(m_pMoveBefore);
     }
     m_nSnapshotTaken = 0;
     SyncAttributePanels();

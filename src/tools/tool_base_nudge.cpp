@@ -2,16 +2,14 @@
 #include <algorithm>
 #include <array>
 
-#include "ops/saturate.h"
+#include "ops/objects/offset.h"
 #include "tools/tool_base.h"
-#include "undo/recorder.h"
 
 namespace {
 
 constexpr int NudgeStep = 1;      ///< client pixels
 constexpr int FastNudgeStep = 10; ///< client pixels, once the same key has repeated often enough
 constexpr int FastNudgeCount = 10;
-constexpr int ViewEdgeMargin = 8; ///< client pixels
 
 /// An arrow key and the direction in which it moves.
 struct NudgeKey {
@@ -33,26 +31,14 @@ const NudgeKey* FindNudgeKey(UINT nChar) {
     return found == NudgeKeys.end() ? nullptr : &*found;
 }
 
-// One axis of the way back into the view; where both rules hold, the later one wins.
-int WayBack(long long nNodeNear, long long nNodeFar, long long nViewNear, long long nViewFar) {
-    long long nDelta = 0;
-    if (nNodeNear > nViewFar) {
-        nDelta = nViewFar - nNodeNear;
-    }
-    if (nNodeFar < nViewNear) {
-        nDelta = nViewNear - nNodeFar;
-    }
-    return Saturated(nDelta);
-}
-
 } // namespace
 
 int CToolBase::OnKeyDown(UINT nChar, UINT nRepeat, UINT nFlags) {
     if (IsPressed()) {
         return 1;
     }
-    CCanvas canvas(*this);
-    if (!canvas || canvas.Selection().IsEmpty()) {
+    const CCanvas canvas(*this);
+    if (!canvas || !canvas.HasSelection()) {
         return CToolCore::OnKeyDown(nChar, nRepeat, nFlags);
     }
     if (!IsArrowKey(nChar) && IsArrowKeyHeld()) {
@@ -81,7 +67,7 @@ bool CToolBase::IsArrowKeyHeld() {
 }
 
 bool CToolBase::IsArrowKeyQueued() {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     MSG message;
     return canvas && PeekMessageA(&message, canvas.View().m_hWnd, WM_KEYDOWN, WM_KEYDOWN, PM_NOREMOVE) &&
            IsArrowKey(static_cast<UINT>(message.wParam));
@@ -94,27 +80,17 @@ void CToolBase::CountNudgeKey(UINT nChar) {
     m_nNudgeKey = nKey;
 }
 
-int CToolBase::StepNudge(CCanvas& canvas, UINT nChar) {
-    if (!m_pNudgeBefore) {
-        m_pNudgeBefore = CaptureState<CMoveChangedUndoEvent>(AsObjectTool());
-        if (!m_pNudgeBefore) {
-            return 0;
-        }
+int CToolBase::StepNudge(const CCanvas& canvas, UINT nChar) {
+    if (!m_nudgeRecorder.HasCapture() && !m_nudgeRecorder.CaptureBefore(*this)) {
+        return 0;
     }
-    CRect rcBefore(0, 0, 0, 0);
-    GetSelectionOutlineRect(&rcBefore);
-    m_fnCopySelection(canvas, m_movedNodes);
+    const CRect rcBefore = SelectionOutlineRect(*this);
+    m_fnCopySelection(m_movedNodes);
     ShowSelectionMarks(0);
     ClearSelection();
     canvas.View().InvalidateRect(&rcBefore, FALSE);
 
-    m_pAnchor = m_movedNodes.GetHead();
-    m_anchorOffset = CSize(0, 0);
-    m_ptPress = canvas.ToClient(CPoint(m_pAnchor->m_tx.nX, m_pAnchor->m_tx.nY));
-    const int nStep = m_nNudgeRepeat == FastNudgeCount ? FastNudgeStep : NudgeStep;
-    const NudgeKey* pKey = FindNudgeKey(nChar);
-    m_ptLast = m_ptPress + CSize(pKey->nX * nStep, pKey->nY * nStep);
-
+    AimNudge(canvas, nChar);
     StepMove(MoveStep::Final);
     CPoint ptPointer;
     ::GetCursorPos(&ptPointer);
@@ -125,38 +101,23 @@ int CToolBase::StepNudge(CCanvas& canvas, UINT nChar) {
     return 1;
 }
 
+// As if the first node's corner were dragged by one step.
+void CToolBase::AimNudge(const CCanvas& canvas, UINT nChar) {
+    m_pAnchor = m_movedNodes.GetHead();
+    m_anchorOffset = CSize(0, 0);
+    m_ptPress = canvas.ToClient(CPoint(m_pAnchor->m_tx.nX, m_pAnchor->m_tx.nY));
+    const int nStep = m_nNudgeRepeat == FastNudgeCount ? FastNudgeStep : NudgeStep;
+    const NudgeKey* pKey = FindNudgeKey(nChar);
+    m_ptLast = m_ptPress + CSize(pKey->nX * nStep, pKey->nY * nStep);
+}
+
 // The capture from before the sequence stays for the next one when nothing has changed.
 void CToolBase::FinishNudge() {
     m_nNudgeKey = 0;
     m_nNudgeRepeat = 0;
-    if (!m_pNudgeBefore) {
-        return;
-    }
-    const auto pAfter = CaptureState<CMoveChangedUndoEvent>(AsObjectTool());
-    if (!pAfter) {
-        m_pNudgeBefore.reset();
-    } else if (!m_pNudgeBefore->m_fnIsSameState(pAfter.get())) {
-        RecordEvent(m_pNudgeBefore);
+    if (m_nudgeRecorder.HasCapture() && m_nudgeRecorder.RecordChange(*this) == Recorded::NoCapture) {
+        m_nudgeRecorder.Drop();
     }
 }
 
-// The answer is 0 when the part that the node covers before and after is as wide as the node was, and
-// otherwise whether that part's height differs from the node's.
-int CToolBase::KeepNodeInView(CImgNode* pNode) {
-    CCanvas canvas(*this);
-    CRect rcOld;
-    if (!canvas || !pNode || !GetNodeRect(pNode, &rcOld)) {
-        return 0;
-    }
-    CRect rcView = canvas.ClientRect();
-    rcView.DeflateRect(ViewEdgeMargin, ViewEdgeMargin);
-    const CSize delta(WayBack(rcOld.left, rcOld.right, rcView.left, rcView.right),
-                      WayBack(rcOld.top, rcOld.bottom, rcView.top, rcView.bottom));
-    m_fnOffsetObject(pNode, canvas.DeltaToDocument(delta));
-
-    CRect rcNew;
-    GetNodeRect(pNode, &rcNew);
-    CRect rcCommon;
-    rcCommon.IntersectRect(&rcOld, &rcNew);
-    return rcCommon.Width() != rcOld.Width() && rcCommon.Height() != rcOld.Height() ? 1 : 0;
-}
+int CToolBase::KeepNodeInView(CImgNode* pNode) { return KeepInView(*this, pNode); }

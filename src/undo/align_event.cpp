@@ -1,80 +1,59 @@
 #include "undo/align_event.h"
 
-#include <new>
-
-#include "ops/canvas.h"
-#include "ops/refresh.h"
-#include "tools/object_tool.h"
+#include "ops/nodes.h"
+#include "ops/objects/offset.h"
+#include "ops/objects/resize.h"
+#include "undo/records.h"
 
 IMPLEMENT_DYNCREATE(CuAlignUndoEvent, CUndoEvent)
 
+namespace {
+
+// The record keeps the rectangle that the node had until now, for the way back.
+void RestoreRect(CTool& tool, NodeRectRecord& record) {
+    const CRect rcLive = record.node->m_fnGetBoundRectWithFrame();
+    OffsetObject(record.node, record.bounds.TopLeft() - rcLive.TopLeft());
+    if (record.bounds.Size() != rcLive.Size()) {
+        ResizeObject(tool, record.node, record.bounds);
+    }
+    record.bounds = rcLive;
+}
+
+} // namespace
+
 CuAlignUndoEvent::~CuAlignUndoEvent() { CuAlignUndoEvent::Free(); }
 
-BOOL CuAlignUndoEvent::m_fnSaveState(CObjectTool* pTool) {
+BOOL CuAlignUndoEvent::m_fnSaveState(CTool* pTool) {
     m_pOwnerTool = pTool;
     if (!pTool) {
         return TRUE;
     }
     Free();
-    CCanvas canvas(*pTool);
+    const CCanvas canvas(*pTool);
     if (canvas.HasDocument()) {
-        CImgNodeList& selection = canvas.Selection();
-        for (POSITION position = selection.GetHeadPosition(); position;) {
-            CImgNode* pNode = selection.GetNext(position);
-            auto* pRecord = new (std::nothrow) NodeRectRecord{pNode->m_fnGetBoundRectWithFrame(), pNode};
-            if (!pRecord) {
+        for (CImgNode* pNode : Each(canvas.Selection())) {
+            if (!AddRecord(m_saved, NodeRectRecord{pNode->m_fnGetBoundRectWithFrame(), pNode})) {
                 return FALSE;
             }
-            m_saved.AddTail(pRecord);
         }
     }
     SetAccumulate(FALSE);
     return TRUE;
 }
 
-BOOL CuAlignUndoEvent::Accumulate(CUndoEvent*) { return FALSE; }
-
-BOOL CuAlignUndoEvent::Undo() {
-    CUndoEvent::Undo();
-    if (!m_pOwnerTool) {
-        return FALSE;
-    }
-    CCanvas canvas(*m_pOwnerTool);
-    if (!canvas) {
-        return FALSE;
-    }
-    m_bUndone = !m_bUndone;
-    m_pOwnerTool->SyncToolPanel();
+CRect CuAlignUndoEvent::Area(CTool& tool, const CCanvas&) const {
     CNodeRefList nodes;
-    for (POSITION position = m_saved.GetHeadPosition(); position;) {
-        nodes.AddTail(m_saved.GetNext(position)->node);
+    for (const NodeRectRecord* pRecord : Each(m_saved)) {
+        nodes.AddTail(pRecord->node);
     }
-    CRefresh refresh;
-    refresh.Add(m_pOwnerTool->AreaOf(nodes));
-    for (POSITION position = m_saved.GetHeadPosition(); position;) {
-        RestoreRect(*m_saved.GetNext(position));
-    }
-    refresh.Add(m_pOwnerTool->AreaOf(nodes));
-    refresh.FlushMarkRepaint(canvas.View(), *m_pOwnerTool);
-    m_pOwnerTool->SyncAttributePanels();
-    NotifyChangedThenRedrawn(*m_pOwnerTool);
-    return TRUE;
+    return AreaOf(tool, nodes);
 }
 
-// The record keeps the rectangle that the node had until now, for the way back.
-void CuAlignUndoEvent::RestoreRect(NodeRectRecord& record) {
-    const CRect rcLive = record.node->m_fnGetBoundRectWithFrame();
-    m_pOwnerTool->m_fnOffsetObject(record.node, record.bounds.TopLeft() - rcLive.TopLeft());
-    if (record.bounds.Size() != rcLive.Size()) {
-        m_pOwnerTool->m_fnResizeObject(record.node, record.bounds);
+Restored CuAlignUndoEvent::Restore(Way, CTool& tool, const CCanvas&, CRefresh&) {
+    for (NodeRectRecord* pRecord : Each(m_saved)) {
+        RestoreRect(tool, *pRecord);
     }
-    record.bounds = rcLive;
+    return Restored::Done;
 }
 
-void CuAlignUndoEvent::Free() {
-    while (!m_saved.IsEmpty()) {
-        delete m_saved.RemoveHead();
-    }
-}
-
-BOOL CuAlignUndoEvent::ToolTipNeedText(tagNMTTDISPIFNOA* pText) { return CUndoEvent::ToolTipNeedText(pText); }
+void CuAlignUndoEvent::Free() { FreeRecords(m_saved); }

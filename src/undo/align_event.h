@@ -2,12 +2,10 @@
 // may.
 #pragma once
 
-#include <memory>
-
-#include "host/img_node_list.h"
 #include "undo/move_changed_event.h"
+#include "undo/undo_steps.h"
 
-class CuAlignUndoEvent : public CToggleUndoEvent<NodeRectRecord*, NodeRectRecord*> {
+class CuAlignUndoEvent : public CUndoSteps<CuAlignUndoEvent> {
     DECLARE_DYNCREATE(CuAlignUndoEvent)
 
   public:
@@ -15,14 +13,15 @@ class CuAlignUndoEvent : public CToggleUndoEvent<NodeRectRecord*, NodeRectRecord
 
     /// Saves the selected nodes' rectangles in records that the event owns. A null tool saves nothing. FALSE
     /// when a record cannot be made; the records made so far stay.
-    BOOL m_fnSaveState(CObjectTool* pTool);
-
-    BOOL Accumulate(CUndoEvent* pNext) override;
-    /// FALSE when the owner tool or its document is missing.
-    BOOL Undo() override;
+    BOOL m_fnSaveState(CTool* pTool);
     void Free() override;
-    BOOL ToolTipNeedText(tagNMTTDISPIFNOA* pText) override;
 
   private:
-    void RestoreRect(NodeRectRecord& record);
+    friend CUndoSteps;
+    Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
+    CRect Area(CTool& tool, const CCanvas& canvas) const;
+
+    CList<NodeRectRecord*, NodeRectRecord*> m_saved;
+    CTool* m_pOwnerTool = nullptr; ///< not owned
+    BOOL m_bUndone = FALSE;
 };

@@ -2,20 +2,25 @@
 #pragma once
 
 #include "host/img_node_list.h"
-#include "undo/toggle_event.h"
+#include "undo/undo_steps.h"
 
-class CuArrangeUndoEvent : public CToggleUndoEvent<CImgNode*, CImgNode*> {
+/// The order is that of the top-level objects: each brings the companions that it has by then.
+class CuArrangeUndoEvent : public CUndoSteps<CuArrangeUndoEvent> {
     DECLARE_DYNCREATE(CuArrangeUndoEvent)
 
   public:
     ~CuArrangeUndoEvent() override;
 
-    /// Saves the order of the page's nodes. A null tool saves nothing.
-    void m_fnSaveState(CObjectTool* pTool);
-
-    BOOL Accumulate(CUndoEvent* pNext) override;
-    /// FALSE when the owner tool or its document is missing.
-    BOOL Undo() override;
+    /// Saves the order of the page's objects. A null tool saves nothing.
+    void m_fnSaveState(CTool* pTool);
     void Free() override;
-    BOOL ToolTipNeedText(tagNMTTDISPIFNOA* pText) override;
+
+  private:
+    friend CUndoSteps;
+    Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
+    CRect Area(CTool& tool, const CCanvas&) const { return SelectionOutlineRect(tool); }
+
+    CNodeRefList m_saved;
+    CTool* m_pOwnerTool = nullptr; ///< not owned
+    BOOL m_bUndone = FALSE;
 };

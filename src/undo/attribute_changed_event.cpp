@@ -2,9 +2,7 @@
 
 #include <array>
 
-#include "ops/canvas.h"
-#include "ops/refresh.h"
-#include "tools/object_tool.h"
+#include "ops/nodes.h"
 
 IMPLEMENT_DYNCREATE(CObjectAttributeChangedUndoEvent, CUndoEvent)
 
@@ -64,17 +62,32 @@ CImgNode* CopyWithFrame(CImgNode& node) {
     return pCopy;
 }
 
+// The fresh copy takes the used one's place at once, so that the list holds live copies wherever the walk
+// ends. False, with the node and its copy as they were, when the fresh copy cannot be made.
+bool SwapLook(CTool& tool, CImgNode& node, CImgNode*& pSaved, CRefresh& area) {
+    area.Add(MarkArea(tool, &node));
+    CImgNode* pFresh = CopyWithFrame(node);
+    if (!pFresh) {
+        return false;
+    }
+    CopyBuffers(node, *pSaved);
+    tool.CopyNodeLook(pSaved, &node);
+    DeleteCopy(pSaved);
+    pSaved = pFresh;
+    area.Add(MarkArea(tool, &node));
+    return true;
+}
+
 } // namespace
 
 CObjectAttributeChangedUndoEvent::~CObjectAttributeChangedUndoEvent() {
     CObjectAttributeChangedUndoEvent::Free();
 }
 
-void CObjectAttributeChangedUndoEvent::m_fnSaveState(CObjectTool* pTool, const CNodeRefList& nodes) {
+void CObjectAttributeChangedUndoEvent::m_fnSaveState(CTool* pTool, const CNodeRefList& nodes) {
     m_pOwnerTool = pTool;
     Free();
-    for (POSITION position = nodes.GetHeadPosition(); position;) {
-        CImgNode* pNode = nodes.GetNext(position);
+    for (CImgNode* pNode : Each(nodes)) {
         if (pNode && !pNode->m_pOwner && !Keep(pNode)) {
             return;
         }
@@ -100,72 +113,19 @@ bool CObjectAttributeChangedUndoEvent::Keep(CImgNode* pNode) {
     return true;
 }
 
-BOOL CObjectAttributeChangedUndoEvent::Accumulate(CUndoEvent*) { return TRUE; }
-
-BOOL CObjectAttributeChangedUndoEvent::Undo() {
-    CUndoEvent::Undo();
-    CWaitCursor wait;
-    if (!m_pOwnerTool) {
-        return FALSE;
-    }
-    CCanvas canvas(*m_pOwnerTool);
-    if (!canvas.HasDocument()) {
-        return FALSE;
-    }
-    m_bUndone = !m_bUndone;
-    CRefresh refresh;
+Restored CObjectAttributeChangedUndoEvent::Restore(Way, CTool& tool, const CCanvas& canvas, CRefresh& area) {
     POSITION copy = m_copies.GetHeadPosition();
-    for (POSITION live = m_liveNodes.GetHeadPosition(); live;) {
-        CImgNode* pNode = m_liveNodes.GetNext(live);
-        if (!canvas.Objects().Find(pNode) || !SwapLook(*pNode, m_copies.GetNext(copy), refresh)) {
-            return FALSE;
+    for (CImgNode* pNode : Each(m_liveNodes)) {
+        if (!canvas.Objects().Find(pNode) || !SwapLook(tool, *pNode, m_copies.GetNext(copy), area)) {
+            return Restored::Failed;
         }
     }
-    if (m_copies.IsEmpty()) {
-        return TRUE;
-    }
-    m_pOwnerTool->FlushViewRect(&refresh.Area());
-    m_pOwnerTool->ShowSelectionMarks(TRUE);
-    m_pOwnerTool->RedrawRect(&refresh.Area());
-    m_pOwnerTool->SyncToolPanel();
-    m_pOwnerTool->SyncAttributePanels();
-    NotifyChangedThenRedrawn(*m_pOwnerTool);
-    return TRUE;
+    return m_copies.IsEmpty() ? Restored::Nothing : Restored::Done;
 }
-
-// The fresh copy takes the used one's place at once, so that the list holds live copies wherever the walk
-// ends. False, with the node and its copy as they were, when the fresh copy cannot be made.
-bool CObjectAttributeChangedUndoEvent::SwapLook(CImgNode& node, CImgNode*& pSaved, CRefresh& refresh) {
-    AddMarkArea(node, refresh);
-    CImgNode* pFresh = CopyWithFrame(node);
-    if (!pFresh) {
-        return false;
-    }
-    CopyBuffers(node, *pSaved);
-    m_pOwnerTool->CopyNodeLook(pSaved, &node);
-    DeleteCopy(pSaved);
-    pSaved = pFresh;
-    AddMarkArea(node, refresh);
-    return true;
-}
-
-void CObjectAttributeChangedUndoEvent::AddMarkArea(CImgNode& node, CRefresh& refresh) {
-    CRect rc(0, 0, 0, 0);
-    m_pOwnerTool->GetNodeMarkArea(&node, &rc);
-    refresh.Add(rc);
-}
-
-BOOL CObjectAttributeChangedUndoEvent::Redo() { return Undo(); }
 
 void CObjectAttributeChangedUndoEvent::Free() {
     while (!m_copies.IsEmpty()) {
         DeleteCopy(m_copies.RemoveHead());
     }
     m_liveNodes.RemoveAll();
-}
-
-void CObjectAttributeChangedUndoEvent::Cancel() { Free(); }
-
-BOOL CObjectAttributeChangedUndoEvent::ToolTipNeedText(tagNMTTDISPIFNOA* pText) {
-    return CUndoEvent::ToolTipNeedText(pText);
 }

@@ -1,24 +1,25 @@
 #include "undo/move_changed_event.h"
 
-#include "ops/canvas.h"
-#include "ops/refresh.h"
-#include "tools/object_tool.h"
-#include "undo/rect_match.h"
+#include "ops/nodes.h"
+#include "ops/objects/offset.h"
+#include "undo/same_records.h"
 
 IMPLEMENT_DYNCREATE(CMoveChangedUndoEvent, CUndoEvent)
 
+bool operator==(const NodeRectRecord& record, const NodeRectRecord& other) {
+    return record.node == other.node && CoverEachOther(record.bounds, other.bounds);
+}
+
 CMoveChangedUndoEvent::~CMoveChangedUndoEvent() { m_saved.RemoveAll(); }
 
-void CMoveChangedUndoEvent::m_fnSaveState(CObjectTool* pTool) {
+void CMoveChangedUndoEvent::m_fnSaveState(CTool* pTool) {
     m_pOwnerTool = pTool;
     if (!pTool) {
         return;
     }
-    CCanvas canvas(*pTool);
+    const CCanvas canvas(*pTool);
     if (canvas.HasDocument()) {
-        CImgNodeList& selection = canvas.Selection();
-        for (POSITION position = selection.GetHeadPosition(); position;) {
-            CImgNode* pNode = selection.GetNext(position);
+        for (CImgNode* pNode : Each(canvas.Selection())) {
             m_saved.AddTail({pNode->m_fnGetBoundRectWithFrame(), pNode});
         }
     }
@@ -26,49 +27,30 @@ void CMoveChangedUndoEvent::m_fnSaveState(CObjectTool* pTool) {
 }
 
 BOOL CMoveChangedUndoEvent::m_fnIsSameState(const CMoveChangedUndoEvent* pOther) const {
-    return HasSameRecords(
-        pOther, [](const NodeRectRecord& record) { return record.node; },
-        [](const NodeRectRecord& record, const NodeRectRecord& other) {
-            return record.node == other.node && CoverEachOther(record.bounds, other.bounds);
-        });
+    return IsSameState(*this, pOther, &CMoveChangedUndoEvent::m_saved);
 }
 
-BOOL CMoveChangedUndoEvent::Undo() {
-    CUndoEvent::Undo();
-    if (!m_pOwnerTool) {
-        return FALSE;
-    }
-    m_bUndone = !m_bUndone;
-    m_pOwnerTool->SyncToolPanel();
-
-    SavedList live;
+CRect CMoveChangedUndoEvent::Area(CTool& tool, const CCanvas&) const {
     CNodeRefList nodes;
-    for (POSITION position = m_saved.GetHeadPosition(); position;) {
-        CImgNode* pNode = m_saved.GetNext(position).node;
-        live.AddTail({pNode->m_fnGetBoundRectWithFrame(), pNode});
-        nodes.AddTail(pNode);
+    for (const NodeRectRecord& record : Each(m_saved)) {
+        nodes.AddTail(record.node);
     }
-    CRefresh refresh;
-    refresh.Add(m_pOwnerTool->AreaOf(nodes));
-    RestorePlaces();
-    ReplaceSaved(live);
-    refresh.Add(m_pOwnerTool->AreaOf(nodes));
-
-    CCanvas canvas(*m_pOwnerTool);
-    if (canvas) {
-        refresh.FlushMarkRepaint(canvas.View(), *m_pOwnerTool);
-    }
-    NotifyChangedThenRedrawn(*m_pOwnerTool);
-    return TRUE;
+    return AreaOf(tool, nodes);
 }
 
-// Only the corner counts: a node whose corner already matches is left alone, whatever its size.
-void CMoveChangedUndoEvent::RestorePlaces() {
-    for (POSITION position = m_saved.GetHeadPosition(); position;) {
-        const NodeRectRecord& record = m_saved.GetNext(position);
+// All places are read before any node moves. Only the corner counts: a node whose corner already matches is
+// left alone, whatever its size.
+Restored CMoveChangedUndoEvent::Restore(Way, CTool&, const CCanvas&, CRefresh&) {
+    decltype(m_saved) live;
+    for (const NodeRectRecord& record : Each(m_saved)) {
+        live.AddTail({record.node->m_fnGetBoundRectWithFrame(), record.node});
+    }
+    for (const NodeRectRecord& record : Each(m_saved)) {
         const CSize offset = record.bounds.TopLeft() - record.node->m_fnGetBoundRectWithFrame().TopLeft();
-        if (offset.cx != 0 || offset.cy != 0) {
-            m_pOwnerTool->m_fnOffsetObject(record.node, offset);
+        if (offset != CSize(0, 0)) {
+            OffsetObject(record.node, offset);
         }
     }
+    CopyList(live, m_saved);
+    return Restored::Done;
 }

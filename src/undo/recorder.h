@@ -1,20 +1,20 @@
-// Capturing a state before and after a change, and handing the first capture to the undo manager when the two
-// differ.
+// Capture, change, capture, compare, record: the first capture goes to the undo manager when the two differ.
 #pragma once
 
 #include <memory>
-#include <new>
 
+#include "host/tool.h"
 #include "host/undo.h"
 
-class CObjectTool;
+/// What became of a change: its second capture could not be made, nothing changed, or it is recorded.
+enum class Recorded { NoCapture, Same, Recorded };
 
 /// The tool's state in a new event of that class, or null when the event cannot be made.
 template <class TEvent>
-std::unique_ptr<TEvent> CaptureState(CObjectTool* pTool) {
+std::unique_ptr<TEvent> CaptureState(CTool& tool) {
     std::unique_ptr<TEvent> pEvent(new TEvent);
     if (pEvent) {
-        pEvent->m_fnSaveState(pTool);
+        pEvent->m_fnSaveState(&tool);
     }
     return pEvent;
 }
@@ -26,29 +26,48 @@ void RecordEvent(std::unique_ptr<TEvent>& pEvent) {
     GetUndoMgr()->AddUndoEvent(pRecorded, TRUE);
 }
 
-/// One operation's recording, as a local. What is not recorded is deleted.
+/// Captures the tool's state and records it as it is. 1, or 0 when the event cannot be made.
+template <class TEvent>
+int RecordState(CTool& tool) {
+    std::unique_ptr<TEvent> pEvent = CaptureState<TEvent>(tool);
+    if (!pEvent) {
+        return 0;
+    }
+    RecordEvent(pEvent);
+    return 1;
+}
+
+/// The recording of one change: a local of an operation, a member of a gesture. A capture that is not
+/// recorded stays until it is replaced or dropped, or goes with the recorder.
 template <class TEvent>
 class [[nodiscard]] CUndoRecorder {
   public:
-    explicit CUndoRecorder(CObjectTool* pTool) : m_pTool(pTool) {}
-
-    /// Captures the state before the change. False when the event cannot be made.
-    bool CaptureBefore() {
-        m_pBefore = CaptureState<TEvent>(m_pTool);
-        return m_pBefore != nullptr;
+    bool HasCapture() const { return m_pBefore != nullptr; }
+    /// Captures the state before the change in place of what was captured. False when the event cannot be
+    /// made.
+    bool CaptureBefore(CTool& tool) {
+        m_pBefore = CaptureState<TEvent>(tool);
+        return HasCapture();
     }
-
-    /// Captures again and records the first capture when the two differ. False when the second cannot be
-    /// made; nothing is recorded then.
-    bool RecordChange() {
-        const std::unique_ptr<TEvent> pAfter = CaptureState<TEvent>(m_pTool);
-        if (pAfter && !m_pBefore->m_fnIsSameState(pAfter.get())) {
-            RecordEvent(m_pBefore);
+    /// Captures again and records the first capture when there is one and the two differ.
+    Recorded RecordChange(CTool& tool) {
+        std::unique_ptr<TEvent> pAfter;
+        return RecordChange(tool, pAfter);
+    }
+    /// The same; `pAfter` keeps the second capture.
+    Recorded RecordChange(CTool& tool, std::unique_ptr<TEvent>& pAfter) {
+        pAfter = CaptureState<TEvent>(tool);
+        if (!pAfter) {
+            return Recorded::NoCapture;
         }
-        return pAfter != nullptr;
+        if (!m_pBefore || m_pBefore->m_fnIsSameState(pAfter.get())) {
+            return Recorded::Same;
+        }
+        RecordEvent(m_pBefore);
+        return Recorded::Recorded;
     }
+    void Drop() { m_pBefore.reset(); }
 
   private:
-    CObjectTool* m_pTool;
     std::unique_ptr<TEvent> m_pBefore;
 };

@@ -1,85 +1,62 @@
 #include "undo/resize_changed_event.h"
 
-#include "host/text_node.h"
-#include "ops/canvas.h"
-#include "ops/refresh.h"
-#include "tools/object_tool.h"
-#include "undo/rect_match.h"
+#include "ops/nodes.h"
+#include "ops/objects/resize.h"
+#include "text/object/text_attributes.h"
+#include "text/object/text_replace.h"
+#include "undo/same_records.h"
 
 IMPLEMENT_DYNCREATE(CResizeChangedUndoEvent, CUndoEvent)
 
+namespace {
+
+void RestoreSize(CTool& tool, const NodeSizeRecord& record) {
+    if (AsText(record.node)) {
+        const CPoint ptCorner = record.bounds.TopLeft();
+        RebuildTextAtSize(tool, record.node, record.textSize, &ptCorner);
+    } else {
+        ResizeObject(tool, record.node, record.bounds);
+    }
+    tool.OnNodeResized(record.node);
+}
+
+} // namespace
+
+bool operator==(const NodeSizeRecord& record, const NodeSizeRecord& other) {
+    return record.node == other.node && CoverEachOther(record.bounds, other.bounds);
+}
+
 CResizeChangedUndoEvent::~CResizeChangedUndoEvent() { m_saved.RemoveAll(); }
 
-void CResizeChangedUndoEvent::Capture(CObjectTool& tool, SavedList& records) {
+void CResizeChangedUndoEvent::Capture(const CCanvas& canvas, SavedList& records) {
     records.RemoveAll();
-    CCanvas canvas(tool);
     if (!canvas.HasDocument()) {
         return;
     }
-    CImgNodeList& selection = canvas.Selection();
-    for (POSITION position = selection.GetHeadPosition(); position;) {
-        CImgNode* pNode = selection.GetNext(position);
-        const bool bText = pNode->m_nType == node_type::Text;
-        records.AddTail({bText ? static_cast<CTextNode*>(pNode)->m_nFontSize : 0,
-                         pNode->m_fnGetBoundRectWithFrame(), pNode});
+    for (CImgNode* pNode : Each(canvas.Selection())) {
+        const CTextNode* pText = AsText(pNode);
+        records.AddTail({pText ? pText->m_nFontSize : 0, pNode->m_fnGetBoundRectWithFrame(), pNode});
     }
 }
 
-void CResizeChangedUndoEvent::m_fnSaveState(CObjectTool* pTool) {
+void CResizeChangedUndoEvent::m_fnSaveState(CTool* pTool) {
     m_pOwnerTool = pTool;
-    if (!pTool) {
-        return;
+    if (pTool) {
+        Capture(CCanvas(*pTool), m_saved);
+        SetAccumulate(FALSE);
     }
-    Capture(*pTool, m_saved);
-    SetAccumulate(FALSE);
 }
 
 BOOL CResizeChangedUndoEvent::m_fnIsSameState(const CResizeChangedUndoEvent* pOther) const {
-    return HasSameRecords(
-        pOther, [](const NodeSizeRecord& record) { return record.node; },
-        [](const NodeSizeRecord& record, const NodeSizeRecord& other) {
-            return record.node == other.node && CoverEachOther(record.bounds, other.bounds);
-        });
+    return IsSameState(*this, pOther, &CResizeChangedUndoEvent::m_saved);
 }
 
-BOOL CResizeChangedUndoEvent::Undo() {
-    CUndoEvent::Undo();
-    m_bUndone = !m_bUndone;
-    if (!m_pOwnerTool) {
-        return FALSE;
-    }
-    m_pOwnerTool->SyncToolPanel();
-    CWaitCursor wait;
-    CRefresh refresh;
-    CRect rc(0, 0, 0, 0);
-    m_pOwnerTool->GetSelectionOutlineRect(&rc);
-    refresh.Add(rc);
-
+Restored CResizeChangedUndoEvent::Restore(Way, CTool& tool, const CCanvas& canvas, CRefresh&) {
     SavedList live;
-    Capture(*m_pOwnerTool, live);
-    RestoreSizes();
-    ReplaceSaved(live);
-
-    m_pOwnerTool->GetSelectionOutlineRect(&rc);
-    refresh.Add(rc);
-    CCanvas canvas(*m_pOwnerTool);
-    if (canvas) {
-        refresh.FlushMarkRepaint(canvas.View(), *m_pOwnerTool);
+    Capture(canvas, live);
+    for (const NodeSizeRecord& record : Each(m_saved)) {
+        RestoreSize(tool, record);
     }
-    m_pOwnerTool->SyncAttributePanels();
-    NotifyChangedThenRedrawn(*m_pOwnerTool);
-    return TRUE;
-}
-
-void CResizeChangedUndoEvent::RestoreSizes() {
-    for (POSITION position = m_saved.GetHeadPosition(); position;) {
-        const NodeSizeRecord& record = m_saved.GetNext(position);
-        if (record.node->m_nType == node_type::Text) {
-            const CPoint ptCorner = record.bounds.TopLeft();
-            m_pOwnerTool->m_fnRebuildTextAtSize(record.node, record.textSize, &ptCorner);
-        } else {
-            m_pOwnerTool->m_fnResizeObject(record.node, record.bounds);
-        }
-        m_pOwnerTool->OnNodeResized(record.node);
-    }
+    CopyList(live, m_saved);
+    return Restored::Done;
 }

@@ -2,22 +2,26 @@
 #pragma once
 
 #include "host/img_node_list.h"
-#include "undo/toggle_event.h"
+#include "undo/undo_steps.h"
 
-class CSelChangedUndoEvent : public CToggleUndoEvent<CImgNode*, CImgNode*> {
+/// The current tool becomes the owner at each step; nobody is notified.
+class CSelChangedUndoEvent : public CUndoSteps<CSelChangedUndoEvent> {
     DECLARE_DYNCREATE(CSelChangedUndoEvent)
 
   public:
     ~CSelChangedUndoEvent() override;
 
     /// Saves the selection of the tool's document, in the order of selection. A null tool saves nothing.
-    void m_fnSaveState(CObjectTool* pTool);
+    void m_fnSaveState(CTool* pTool);
     BOOL m_fnIsSameState(const CSelChangedUndoEvent* pOther) const;
 
-    /// FALSE when the owner tool, its document or the current tool is missing; the flag has flipped all the
-    /// same. The current tool becomes the owner. Notifies nobody.
-    BOOL Undo() override;
-
   private:
-    void RestoreSelection(const CRect& rcBefore);
+    friend CUndoSteps;
+    bool IsReady(CTool& tool, const CCanvas& canvas) const;
+    Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
+    CRect Area(CTool&, const CCanvas&) const { return CRect(0, 0, 0, 0); }
+
+    CNodeRefList m_saved;
+    CTool* m_pOwnerTool = nullptr; ///< not owned
+    BOOL m_bUndone = FALSE;
 };

@@ -1,95 +1,67 @@
 #include "undo/shadow_changed_event.h"
 
-#include "ops/canvas.h"
-#include "ops/refresh.h"
-#include "ops/saturate.h"
-#include "tools/object_tool.h"
+#include "ops/nodes.h"
+#include "shadows/shadow_build.h"
+#include "undo/same_records.h"
 
 IMPLEMENT_DYNCREATE(CShadowChangedUndoEvent, CUndoEvent)
 IMPLEMENT_DYNCREATE(CShadowMoveChangedUndoEvent, CUndoEvent)
 
+namespace {
+
+void RestoreShadow(CTool& tool, const NodeShadowRecord& record) {
+    CImgNode* pNode = record.node;
+    const CShadowParam saved = {record.offsetX, record.offsetY, record.softness, record.transparency,
+                                record.color};
+    if (!record.hasShadow) {
+        RemoveShadow(pNode);
+    } else if (!pNode->m_pShadowNode) {
+        CreateShadow(tool, pNode, saved);
+    } else {
+        pNode->m_shadow = saved;
+        tool.RefreshNodeShadow(pNode, 0);
+    }
+}
+
+} // namespace
+
 CShadowChangedUndoEvent::~CShadowChangedUndoEvent() { m_saved.RemoveAll(); }
 
-void CShadowChangedUndoEvent::Capture(CObjectTool& tool, SavedList& records) {
+void CShadowChangedUndoEvent::Capture(const CCanvas& canvas, SavedList& records) {
     records.RemoveAll();
-    CCanvas canvas(tool);
     if (!canvas.HasDocument()) {
         return;
     }
-    CImgNodeList& selection = canvas.Selection();
-    for (POSITION position = selection.GetHeadPosition(); position;) {
-        CImgNode* pNode = selection.GetNext(position);
+    for (CImgNode* pNode : Each(canvas.Selection())) {
         const CShadowParam& shadow = pNode->m_shadow;
         records.AddTail({pNode, shadow.dOffsetX, shadow.dOffsetY, shadow.dSoftness, shadow.nTransparency,
                          shadow.crColor, pNode->m_pShadowNode != nullptr});
     }
 }
 
-void CShadowChangedUndoEvent::m_fnSaveState(CObjectTool* pTool) {
+void CShadowChangedUndoEvent::m_fnSaveState(CTool* pTool) {
     m_pOwnerTool = pTool;
-    if (!pTool) {
-        return;
+    if (pTool) {
+        Capture(CCanvas(*pTool), m_saved);
+        SetAccumulate(FALSE);
     }
-    Capture(*pTool, m_saved);
-    SetAccumulate(FALSE);
 }
 
 BOOL CShadowChangedUndoEvent::m_fnIsSameState(const CShadowChangedUndoEvent* pOther) const {
-    return HasSameRecords(
-        pOther, [](const NodeShadowRecord& record) { return record.node; },
-        [](const NodeShadowRecord& record, const NodeShadowRecord& other) {
-            return record.node == other.node && record.offsetX == other.offsetX &&
-                   record.offsetY == other.offsetY && record.softness == other.softness &&
-                   record.transparency == other.transparency && record.color == other.color &&
-                   record.hasShadow == other.hasShadow;
-        });
+    return IsSameState(*this, pOther, &CShadowChangedUndoEvent::m_saved);
 }
 
-BOOL CShadowChangedUndoEvent::Undo() {
-    CUndoEvent::Undo();
-    m_bUndone = !m_bUndone;
-    if (!m_pOwnerTool) {
-        return FALSE;
-    }
-    CRefresh refresh;
-    CRect rc(0, 0, 0, 0);
-    m_pOwnerTool->GetSelectionOutlineRect(&rc);
-    refresh.Add(rc);
-
+Restored CShadowChangedUndoEvent::Restore(Way, CTool& tool, const CCanvas& canvas, CRefresh&) {
     SavedList live;
-    Capture(*m_pOwnerTool, live);
-    for (POSITION position = m_saved.GetHeadPosition(); position;) {
-        RestoreShadow(m_saved.GetNext(position));
+    Capture(canvas, live);
+    for (const NodeShadowRecord& record : Each(m_saved)) {
+        RestoreShadow(tool, record);
     }
-    ReplaceSaved(live);
-
-    m_pOwnerTool->GetSelectionOutlineRect(&rc);
-    refresh.Add(rc);
-    CCanvas canvas(*m_pOwnerTool);
-    if (canvas) {
-        refresh.FlushMarkRepaint(canvas.View(), *m_pOwnerTool);
-    }
-    m_pOwnerTool->SyncToolPanel();
-    NotifyChangedThenRedrawn(*m_pOwnerTool);
-    return TRUE;
+    CopyList(live, m_saved);
+    return Restored::Done;
 }
 
-void CShadowChangedUndoEvent::RestoreShadow(const NodeShadowRecord& record) {
-    CImgNode* pNode = record.node;
-    if (!record.hasShadow) {
-        m_pOwnerTool->m_fnRemoveShadowOf(pNode);
-        return;
-    }
-    if (!pNode->m_pShadowNode) {
-        m_pOwnerTool->m_fnCreateShadow(pNode, Truncated(record.offsetX), Truncated(record.offsetY),
-                                       &record.color, Truncated(record.softness), record.transparency);
-        return;
-    }
-    pNode->m_shadow = {record.offsetX, record.offsetY, record.softness, record.transparency, record.color};
-    m_pOwnerTool->RefreshNodeShadow(pNode, 0);
-}
-
-void CShadowMoveChangedUndoEvent::m_fnSaveState(CObjectTool* pTool) {
+void CShadowMoveChangedUndoEvent::m_fnSaveState(CTool* pTool) {
     CShadowChangedUndoEvent::m_fnSaveState(pTool);
     SetAccumulate(FALSE);
 }

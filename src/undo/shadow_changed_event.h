@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "host/img_node_list.h"
-#include "undo/toggle_event.h"
+#include "undo/undo_steps.h"
 
 /// One node's shadow settings and whether it had a shadow node.
 struct NodeShadowRecord {
@@ -15,25 +15,33 @@ struct NodeShadowRecord {
     std::int32_t transparency = 0;
     COLORREF color = 0;
     BOOL hasShadow = FALSE;
+
+    /// The settings are compared exactly.
+    bool operator==(const NodeShadowRecord& other) const = default;
 };
 
-class CShadowChangedUndoEvent : public CToggleUndoEvent<NodeShadowRecord> {
+/// Each step captures the current selection, not the saved nodes, for the next one.
+class CShadowChangedUndoEvent : public CUndoSteps<CShadowChangedUndoEvent> {
     DECLARE_DYNCREATE(CShadowChangedUndoEvent)
 
   public:
     ~CShadowChangedUndoEvent() override;
 
     /// Saves the selected nodes' shadows, in the order of selection. A null tool saves nothing.
-    virtual void m_fnSaveState(CObjectTool* pTool);
-    /// The settings are compared exactly.
+    virtual void m_fnSaveState(CTool* pTool);
     BOOL m_fnIsSameState(const CShadowChangedUndoEvent* pOther) const;
 
-    /// Captures the current selection, not the saved nodes, for the next undo.
-    BOOL Undo() override;
-
   private:
-    static void Capture(CObjectTool& tool, SavedList& records);
-    void RestoreShadow(const NodeShadowRecord& record);
+    friend CUndoSteps;
+    using SavedList = CList<NodeShadowRecord, const NodeShadowRecord&>;
+
+    static void Capture(const CCanvas& canvas, SavedList& records);
+    Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
+    CRect Area(CTool& tool, const CCanvas&) const { return SelectionOutlineRect(tool); }
+
+    SavedList m_saved;
+    CTool* m_pOwnerTool = nullptr; ///< not owned
+    BOOL m_bUndone = FALSE;
 };
 
 /// The same, recorded when shadows are dragged.
@@ -41,5 +49,5 @@ class CShadowMoveChangedUndoEvent : public CShadowChangedUndoEvent {
     DECLARE_DYNCREATE(CShadowMoveChangedUndoEvent)
 
   public:
-    void m_fnSaveState(CObjectTool* pTool) override;
+    void m_fnSaveState(CTool* pTool) override;
 };

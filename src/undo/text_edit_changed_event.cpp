@@ -1,22 +1,14 @@
 #include "undo/text_edit_changed_event.h"
 
-#include "ops/canvas.h"
-#include "ops/refresh.h"
 #include "ops/saturate.h"
-#include "text/object/text_style.h"
-#include "tools/object_tool.h"
+#include "text/object/text_build.h"
+#include "text/object/text_place.h"
 
 IMPLEMENT_DYNCREATE(CTextEditChangedUndoEvent, CUndoEvent)
 
 namespace {
 
-CTextNode* FirstSelectedText(const CCanvas& canvas) {
-    if (!canvas.HasDocument() || canvas.Selection().IsEmpty()) {
-        return nullptr;
-    }
-    CImgNode* pNode = canvas.Selection().GetHead();
-    return pNode->m_nType == node_type::Text ? static_cast<CTextNode*>(pNode) : nullptr;
-}
+CTextNode* FirstSelectedText(const CCanvas& canvas) { return AsText(canvas.FirstSelected()); }
 
 CRect BoxOf(const CTextNode& node) {
     const CTxParam& tx = node.m_tx;
@@ -26,87 +18,51 @@ CRect BoxOf(const CTextNode& node) {
 
 } // namespace
 
-void CTextEditChangedUndoEvent::m_fnSaveState(CObjectTool* pTool) {
+void CTextEditChangedUndoEvent::m_fnSaveState(CTool* pTool) {
     m_pOwnerTool = pTool;
     if (pTool) {
         if (const CTextNode* pText = FirstSelectedText(CCanvas(*pTool))) {
-            pText->m_fnGetText(m_strText);
+            m_strText = TextOf(*pText);
             m_rcBox = BoxOf(*pText);
         }
     }
     SetAccumulate(FALSE);
 }
 
-BOOL CTextEditChangedUndoEvent::Accumulate(CUndoEvent*) { return FALSE; }
+bool CTextEditChangedUndoEvent::IsReady(CTool&, const CCanvas& canvas) const {
+    return FirstSelectedText(canvas) != nullptr;
+}
 
-BOOL CTextEditChangedUndoEvent::Undo() {
-    CUndoEvent::Undo();
-    m_bUndone = !m_bUndone;
-    CTextNode* pText = m_pOwnerTool ? FirstSelectedText(CCanvas(*m_pOwnerTool)) : nullptr;
-    if (!pText) {
-        return FALSE;
-    }
-    m_pOwnerTool->SyncToolPanel();
-    CRefresh refresh;
-    CRect rc(0, 0, 0, 0);
-    m_pOwnerTool->GetNodeMarkArea(pText, &rc);
-    refresh.Add(rc);
-    const std::unique_ptr<CTextNode> pBuilt = BuildSavedText(*pText);
+CRect CTextEditChangedUndoEvent::Area(CTool& tool, const CCanvas& canvas) const {
+    return MarkArea(tool, FirstSelectedText(canvas));
+}
+
+Restored CTextEditChangedUndoEvent::Restore(Way, CTool& tool, const CCanvas& canvas, CRefresh&) {
+    CTextNode& text = *FirstSelectedText(canvas);
+    const std::unique_ptr<CTextNode> pBuilt = BuildSavedText(tool, text);
     if (!pBuilt) {
-        return FALSE;
+        return Restored::Failed;
     }
-    SwapWith(*pText, *pBuilt);
-    if (pText->m_pShadowNode) {
-        m_pOwnerTool->RefreshNodeShadow(pText, 0);
+    m_strText = TextOf(text);
+    m_rcBox = BoxOf(text);
+    TakePlace(tool, text, *pBuilt, {FrameRule::Dropped, ShadowRule::Kept, DisplayRule::FromRebuilt});
+    if (text.m_pShadowNode) {
+        tool.RefreshNodeShadow(&text, 0);
     }
-    m_pOwnerTool->GetNodeMarkArea(pText, &rc);
-    refresh.Add(rc);
-    m_pOwnerTool->FlushViewRect(&refresh.Area());
-    m_pOwnerTool->ShowSelectionMarks(TRUE);
-    m_pOwnerTool->RedrawRect(&refresh.Area());
-    m_pOwnerTool->SyncAttributePanels();
-    NotifyChangedThenRedrawn(*m_pOwnerTool);
-    return TRUE;
+    return Restored::Done;
 }
 
 // The saved text with the other's attributes, effect and display values, in the saved box. Null when it
 // cannot be built.
-std::unique_ptr<CTextNode> CTextEditChangedUndoEvent::BuildSavedText(const CTextNode& like) {
-    const std::unique_ptr<char[]> pszFontName(like.CloneFontName());
-    if (!pszFontName) {
+std::unique_ptr<CTextNode> CTextEditChangedUndoEvent::BuildSavedText(CTool& tool, const CTextNode& like) {
+    TextAttributes attributes;
+    if (!ReadAttributes(like, attributes)) {
         return nullptr;
     }
-    std::unique_ptr<CTextNode> pBuilt(
-        m_pOwnerTool->CreateTextNode(m_strText, CString(pszFontName.get()), like.m_crText, like.m_nFontSize,
-                                     AlignmentIndexOf(like), StyleBitsOf(like)));
-    if (!pBuilt) {
-        return nullptr;
+    std::unique_ptr<CTextNode> pBuilt =
+        BuildTextLike(tool, like, m_strText, attributes, {Effect::Same, Width::AsDrawn, Display::Taken});
+    if (pBuilt) {
+        pBuilt->m_fnResize(m_rcBox);
     }
-    pBuilt->m_fnCopyTextEffectFrom(&like);
-    pBuilt->m_fnRegenerateTextEffect();
-    pBuilt->m_fnUpdateBCAndT(like.m_nBrightness, like.m_nContrast, like.m_nTransparency);
-    pBuilt->m_fnResize(m_rcBox);
     return pBuilt;
 }
-
-// Moving the data also moves the built text's empty links; the node's shadow is put back, its frame is not.
-void CTextEditChangedUndoEvent::SwapWith(CTextNode& node, CTextNode& built) {
-    CString strText;
-    node.m_fnGetText(strText);
-    const CRect rcBox = BoxOf(node);
-    CImgNode* pShadowNode = node.m_pShadowNode;
-    const CShadowParam shadow = node.m_shadow;
-    node.m_fnMoveMemberDataFrom(&built);
-    node.m_pShadowNode = pShadowNode;
-    node.m_shadow = shadow;
-    m_strText = strText;
-    m_rcBox = rcBox;
-}
-
-BOOL CTextEditChangedUndoEvent::Redo() { return Undo(); }
-
-void CTextEditChangedUndoEvent::Free() {}
-
-void CTextEditChangedUndoEvent::Cancel() { Free(); }
-
-BOOL CTextEditChangedUndoEvent::ToolTipNeedText(tagNMTTDISPIFNOA*) { return TRUE; }

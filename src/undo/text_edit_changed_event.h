@@ -5,38 +5,28 @@
 #include <memory>
 
 #include "host/text_node.h"
-#include "host/undo.h"
+#include "undo/undo_steps.h"
 
-class CObjectTool;
-
-/// Members stand in this order: owner tool, saved text, saved box, undone flag.
-class CTextEditChangedUndoEvent : public CUndoEvent {
+/// A step gives the saved text and box to the text that is selected first by then, whichever it is, and keeps
+/// what it had. Its other attributes, its effect and its shadow stay; its link to a frame goes. FALSE, with
+/// nothing changed but the flag, when no text is selected first or the text cannot be built.
+class CTextEditChangedUndoEvent : public CUndoSteps<CTextEditChangedUndoEvent> {
     DECLARE_DYNCREATE(CTextEditChangedUndoEvent)
 
   public:
     /// Saves text and box of the first selected node. Another node than a text, and a null tool, leave what
     /// was saved before.
-    virtual void m_fnSaveState(CObjectTool* pTool);
-
-    BOOL Accumulate(CUndoEvent* pNext) override;
-    /// Gives the saved text and box to the text that is selected first now, whichever it is, and keeps what
-    /// it had. Its other attributes, its effect and its shadow stay; its link to a frame goes. FALSE, with
-    /// nothing changed but the flag, when there is no owner tool, no text is selected first, or the text
-    /// cannot be built.
-    BOOL Undo() override;
-    BOOL Redo() override;
-    void Free() override;
-    void Cancel() override;
-    BOOL ToolTipNeedText(tagNMTTDISPIFNOA* pText) override;
-
-    BOOL IsUndone() const { return m_bUndone; }
-    CObjectTool* OwnerTool() const { return m_pOwnerTool; }
+    virtual void m_fnSaveState(CTool* pTool);
 
   private:
-    std::unique_ptr<CTextNode> BuildSavedText(const CTextNode& like);
-    void SwapWith(CTextNode& node, CTextNode& built);
+    friend CUndoSteps;
+    bool IsReady(CTool& tool, const CCanvas& canvas) const;
+    Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
+    CRect Area(CTool& tool, const CCanvas& canvas) const;
 
-    CObjectTool* m_pOwnerTool = nullptr; ///< not owned
+    std::unique_ptr<CTextNode> BuildSavedText(CTool& tool, const CTextNode& like);
+
+    CTool* m_pOwnerTool = nullptr; ///< not owned
     CString m_strText;
     CRect m_rcBox{0, 0, 0, 0}; ///< document units
     BOOL m_bUndone = FALSE;

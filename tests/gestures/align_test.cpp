@@ -3,7 +3,7 @@
 
 namespace {
 
-using Operation = void (CToolOperations::*)();
+using Operation = void (CTool::*)();
 
 /// Three pictures: A [10,20,40,60], B [100,50,120,60], C [200,5,250,85], selected in this order.
 class Align : public CGestureTest {
@@ -20,7 +20,7 @@ class Align : public CGestureTest {
 };
 
 TEST_F(Align, LeftGoesToTheLeastLeft) {
-    Run(&CToolOperations::m_fnAlignLeft);
+    Run(&CTool::m_fnAlignLeft);
 
     EXPECT_EQ(stage.Rect("A"), CRect(10, 20, 40, 60));
     EXPECT_EQ(stage.Rect("B"), CRect(10, 50, 30, 60));
@@ -28,7 +28,7 @@ TEST_F(Align, LeftGoesToTheLeastLeft) {
 }
 
 TEST_F(Align, TopGoesToTheLeastTop) {
-    Run(&CToolOperations::m_fnAlignTop);
+    Run(&CTool::m_fnAlignTop);
 
     EXPECT_EQ(stage.Rect("A"), CRect(10, 5, 40, 45));
     EXPECT_EQ(stage.Rect("B"), CRect(100, 5, 120, 15));
@@ -36,7 +36,7 @@ TEST_F(Align, TopGoesToTheLeastTop) {
 }
 
 TEST_F(Align, RightGoesToTheGreatestRight) {
-    Run(&CToolOperations::m_fnAlignRight);
+    Run(&CTool::m_fnAlignRight);
 
     EXPECT_EQ(stage.Rect("A"), CRect(220, 20, 250, 60));
     EXPECT_EQ(stage.Rect("B"), CRect(230, 50, 250, 60));
@@ -44,7 +44,7 @@ TEST_F(Align, RightGoesToTheGreatestRight) {
 }
 
 TEST_F(Align, BottomGoesToTheGreatestBottom) {
-    Run(&CToolOperations::m_fnAlignBottom);
+    Run(&CTool::m_fnAlignBottom);
 
     EXPECT_EQ(stage.Rect("A"), CRect(10, 45, 40, 85));
     EXPECT_EQ(stage.Rect("B"), CRect(100, 75, 120, 85));
@@ -53,7 +53,7 @@ TEST_F(Align, BottomGoesToTheGreatestBottom) {
 
 // The box is [10,5,250,85]; its middle is (130, 45).
 TEST_F(Align, MiddleMovesUpAndDownAlone) {
-    Run(&CToolOperations::m_fnAlignMiddle);
+    Run(&CTool::m_fnAlignMiddle);
 
     EXPECT_EQ(Place("A"), CPoint(10, 25));
     EXPECT_EQ(Place("B"), CPoint(100, 40));
@@ -61,7 +61,7 @@ TEST_F(Align, MiddleMovesUpAndDownAlone) {
 }
 
 TEST_F(Align, CenterMovesSidewaysAlone) {
-    Run(&CToolOperations::m_fnAlignCenter);
+    Run(&CTool::m_fnAlignCenter);
 
     EXPECT_EQ(Place("A"), CPoint(115, 20));
     EXPECT_EQ(Place("B"), CPoint(120, 50));
@@ -69,7 +69,7 @@ TEST_F(Align, CenterMovesSidewaysAlone) {
 }
 
 TEST_F(Align, CentersMovesBothWays) {
-    Run(&CToolOperations::m_fnAlignCenters);
+    Run(&CTool::m_fnAlignCenters);
 
     EXPECT_EQ(Place("A"), CPoint(115, 25));
     EXPECT_EQ(Place("B"), CPoint(120, 40));
@@ -78,8 +78,8 @@ TEST_F(Align, CentersMovesBothWays) {
 
 TEST_F(Align, SingleObjectStaysWhereItIs) {
     Picture("odd", 11, 7, 5, 3);
-    for (const Operation pfnRun : {&CToolOperations::m_fnAlignLeft, &CToolOperations::m_fnAlignBottom,
-                                   &CToolOperations::m_fnAlignMiddle, &CToolOperations::m_fnAlignCenters}) {
+    for (const Operation pfnRun : {&CTool::m_fnAlignLeft, &CTool::m_fnAlignBottom, &CTool::m_fnAlignMiddle,
+                                   &CTool::m_fnAlignCenters}) {
         stage.Select({"odd"});
         Run(pfnRun);
         EXPECT_EQ(stage.Rect("odd"), CRect(11, 7, 16, 10));
@@ -90,17 +90,17 @@ TEST_F(Align, SingleObjectStaysWhereItIs) {
 TEST_F(Align, CentresCountFromFixedExtremes) {
     Picture("west", -40, 100, 30, 10);
     stage.Select({"west"});
-    Run(&CToolOperations::m_fnAlignCenter);
+    Run(&CTool::m_fnAlignCenter);
     EXPECT_EQ(Place("west"), CPoint(-35, 100)) << "(0 - 40) / 2 - 15";
 
     Picture("odd", -7, -9, 4, 5);
     stage.Select({"odd"});
-    Run(&CToolOperations::m_fnAlignCenters);
+    Run(&CTool::m_fnAlignCenters);
     EXPECT_EQ(Place("odd"), CPoint(-5, -6)) << "halves are cut toward zero: -3 - 2 and -4 - 2";
 
     Picture("east", 20000000, 100, 10, 10);
     stage.Select({"east"});
-    Run(&CToolOperations::m_fnAlignCenter);
+    Run(&CTool::m_fnAlignCenter);
     EXPECT_EQ(Place("east"), CPoint(18388607, 100)) << "(20000010 + 16777215) / 2 - 5";
 }
 
@@ -113,16 +113,16 @@ TEST_F(Align, MarginMovesWithTheScroll) {
     Picture("N", 200, 60, 40, 40);
 
     stage.Select({"far left", "N"});
-    Run(&CToolOperations::m_fnAlignLeft);
+    Run(&CTool::m_fnAlignLeft);
     EXPECT_EQ(Place("N"), CPoint(68, 60)) << "its right edge comes back to 108";
     stage.Select({"far up", "N"});
-    Run(&CToolOperations::m_fnAlignTop);
+    Run(&CTool::m_fnAlignTop);
     EXPECT_EQ(Place("N"), CPoint(68, 18)) << "its bottom edge comes back to 58";
     stage.Select({"far right", "N"});
-    Run(&CToolOperations::m_fnAlignRight);
+    Run(&CTool::m_fnAlignRight);
     EXPECT_EQ(Place("N"), CPoint(392, 18)) << "500 - 108";
     stage.Select({"far down", "N"});
-    Run(&CToolOperations::m_fnAlignBottom);
+    Run(&CTool::m_fnAlignBottom);
     EXPECT_EQ(Place("N"), CPoint(392, 292)) << "350 - 58";
 }
 
@@ -132,7 +132,7 @@ TEST_F(Align, MarginIsEightPixelsWhateverTheZoom) {
     Picture("N", 200, 60, 40, 40);
     stage.Select({"N", "far left"});
 
-    Run(&CToolOperations::m_fnAlignLeft);
+    Run(&CTool::m_fnAlignLeft);
 
     EXPECT_EQ(stage.Rect("N"), CRect(-36, 60, 4, 100));
     EXPECT_EQ(Place("far left"), CPoint(-300, 60)) << "the reference is left out of the view";
@@ -144,14 +144,14 @@ TEST_F(Align, OnATieTheOneSelectedFirstIsTheReference) {
     Picture("nine", 9, 20, 60, 20);
     Picture("ten", 10, 60, 60, 20);
     stage.Select({"ten", "nine"});
-    Run(&CToolOperations::m_fnAlignLeft);
+    Run(&CTool::m_fnAlignLeft);
     EXPECT_EQ(stage.Rect("nine").left, 10);
 
     Page(400, 300, 0.5);
     Picture("nine", 9, 20, 60, 20);
     Picture("ten", 10, 60, 60, 20);
     stage.Select({"nine", "ten"});
-    Run(&CToolOperations::m_fnAlignLeft);
+    Run(&CTool::m_fnAlignLeft);
     EXPECT_EQ(stage.Rect("ten").left, 9);
 }
 
@@ -160,7 +160,7 @@ TEST_F(Align, BoundsIncludeTheFrameAndCompanionsComeAlong) {
     ASSERT_TRUE(Shadow("F", 4, 4));
     stage.Select({"A", "F"});
 
-    Run(&CToolOperations::m_fnAlignLeft);
+    Run(&CTool::m_fnAlignLeft);
 
     EXPECT_EQ(Place("F.frame"), CPoint(10, 110));
     EXPECT_EQ(Place("F"), CPoint(20, 120));
@@ -172,7 +172,7 @@ TEST_F(Align, FrameMakesItsObjectTheReference) {
     FramedPicture("F", 15, 120, 40, 40); // its frame reaches to 5
     stage.Select({"A", "F"});
 
-    Run(&CToolOperations::m_fnAlignLeft);
+    Run(&CTool::m_fnAlignLeft);
 
     EXPECT_EQ(Place("A"), CPoint(5, 20));
     EXPECT_EQ(Place("F"), CPoint(15, 120));
@@ -182,15 +182,15 @@ TEST_F(Align, SelectedCompanionsAreNotMovedOnTheirOwn) {
     FramedPicture("F", 60, 120, 40, 40);
     stage.Select({"A", "F.frame"});
 
-    Run(&CToolOperations::m_fnAlignLeft);
-    Run(&CToolOperations::m_fnAlignTop);
+    Run(&CTool::m_fnAlignLeft);
+    Run(&CTool::m_fnAlignTop);
 
     EXPECT_EQ(Place("F.frame"), CPoint(50, 110));
     EXPECT_EQ(Place("F"), CPoint(60, 120));
 }
 
 TEST_F(Align, RefreshesTheUnionOfBothAreasAndRecordsNothing) {
-    Run(&CToolOperations::m_fnAlignLeft);
+    Run(&CTool::m_fnAlignLeft);
 
     const Steps steps = TakeSteps();
     ASSERT_EQ(steps.size(), 12U) << "flush, three marks read and written, repaint, four notifications";
@@ -203,9 +203,8 @@ TEST_F(Align, RefreshesTheUnionOfBothAreasAndRecordsNothing) {
 
 TEST_F(Align, WithNothingSelectedOnlyTheFinishingStepsRun) {
     stage.Select({});
-    for (const Operation pfnRun :
-         {&CToolOperations::m_fnAlignRight, &CToolOperations::m_fnAlignCenters,
-          &CToolOperations::m_fnDistributeVertically, &CToolOperations::m_fnSameSize}) {
+    for (const Operation pfnRun : {&CTool::m_fnAlignRight, &CTool::m_fnAlignCenters,
+                                   &CTool::m_fnDistributeVertically, &CTool::m_fnSameSize}) {
         TakeSteps();
         Run(pfnRun);
         EXPECT_EQ(TakeSteps(), (Steps{"view FlushCacheRect [0,0,0,0]", "view RepaintViewRect [0,0,0,0] 1",

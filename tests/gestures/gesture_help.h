@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/tool_operations.h"
+#include "host/tool.h"
 #include "stage.h"
 
 /// So that a failed comparison shows rectangles and sizes as people write them.
@@ -20,24 +20,24 @@ using Names = std::vector<std::string>;
 using Steps = std::vector<std::string>;
 
 /// The arranging operations; the first two put the excluded node in front, the first four change the order.
-using Operation = void (CToolOperations::*)();
+using Operation = void (CTool::*)();
 inline constexpr std::array<Operation, 16> ArrangeOperations = {
-    &CToolOperations::m_fnBringForward,
-    &CToolOperations::m_fnBringToFront,
-    &CToolOperations::m_fnSendBackward,
-    &CToolOperations::m_fnSendToBack,
-    &CToolOperations::m_fnAlignLeft,
-    &CToolOperations::m_fnAlignTop,
-    &CToolOperations::m_fnAlignRight,
-    &CToolOperations::m_fnAlignBottom,
-    &CToolOperations::m_fnAlignMiddle,
-    &CToolOperations::m_fnAlignCenter,
-    &CToolOperations::m_fnAlignCenters,
-    &CToolOperations::m_fnDistributeVertically,
-    &CToolOperations::m_fnDistributeHorizontally,
-    &CToolOperations::m_fnSameWidth,
-    &CToolOperations::m_fnSameHeight,
-    &CToolOperations::m_fnSameSize,
+    &CTool::m_fnBringForward,
+    &CTool::m_fnBringToFront,
+    &CTool::m_fnSendBackward,
+    &CTool::m_fnSendToBack,
+    &CTool::m_fnAlignLeft,
+    &CTool::m_fnAlignTop,
+    &CTool::m_fnAlignRight,
+    &CTool::m_fnAlignBottom,
+    &CTool::m_fnAlignMiddle,
+    &CTool::m_fnAlignCenter,
+    &CTool::m_fnAlignCenters,
+    &CTool::m_fnDistributeVertically,
+    &CTool::m_fnDistributeHorizontally,
+    &CTool::m_fnSameWidth,
+    &CTool::m_fnSameHeight,
+    &CTool::m_fnSameSize,
 };
 
 /// A page of 400 by 300 and the plain select tool. Every operation acts or answers; tests assert.
@@ -61,7 +61,7 @@ class CGestureStage {
     /// The node's client rectangle, frame included.
     CRect ClientRect(const std::string& name);
 
-    CToolOperations& Tool() { return *OperationsOf(stage.CurrentTool()); }
+    CTool& Tool() { return *AsTool(stage.CurrentTool()); }
     IToolObjectOps& Ops() { return *stage.ToolInterface<IToolObjectOps>(); }
     IToolLink& Link() { return *stage.ToolInterface<IToolLink>(); }
 

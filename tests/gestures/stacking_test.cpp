@@ -13,13 +13,13 @@ class Stacking : public CGestureTest {
             nX += 60;
         }
     }
-    Names Forward(const Names& names) { return After(names, &CToolOperations::m_fnBringForward); }
-    Names Backward(const Names& names) { return After(names, &CToolOperations::m_fnSendBackward); }
-    Names ToFront(const Names& names) { return After(names, &CToolOperations::m_fnBringToFront); }
-    Names ToBack(const Names& names) { return After(names, &CToolOperations::m_fnSendToBack); }
+    Names Forward(const Names& names) { return After(names, &CTool::m_fnBringForward); }
+    Names Backward(const Names& names) { return After(names, &CTool::m_fnSendBackward); }
+    Names ToFront(const Names& names) { return After(names, &CTool::m_fnBringToFront); }
+    Names ToBack(const Names& names) { return After(names, &CTool::m_fnSendToBack); }
 
   private:
-    Names After(const Names& names, void (CToolOperations::*pfnMove)()) {
+    Names After(const Names& names, void (CTool::*pfnMove)()) {
         stage.Select(names);
         stage.Trace();
         (Tool().*pfnMove)();

@@ -8,8 +8,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "desk/tool_operations.h"
 #include "host/kinds.h"
+#include "host/tool.h"
 #include "host/tool_interfaces.h"
 #include "stage.h"
 
@@ -36,7 +36,7 @@ class CModuleStage : public CStage {
 
     IToolInput& Input(const std::string& tool = "");
     IToolObjectOps& Ops(const std::string& tool = "");
-    CToolOperations& Main() { return *OperationsOf(CurrentTool()); }
+    CTool& Main() { return *AsTool(CurrentTool()); }
     /// Presses without a window message, for the answer.
     int PressAnswer(CPoint point);
 

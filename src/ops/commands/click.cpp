@@ -1,8 +1,11 @@
-// How a left click changes the selection, and how presses and releases reach the current tool.
-#include "host/document_service.h"
+#include "ops/commands/click.h"
+
 #include "host/panels.h"
-#include "ops/bus.h"
-#include "tools/tool_core.h"
+#include "ops/canvas.h"
+#include "ops/current_tool.h"
+#include "ops/hit_test.h"
+#include "ops/nodes.h"
+#include "ops/selection.h"
 #include "undo/recorder.h"
 #include "undo/sel_changed_event.h"
 
@@ -12,15 +15,9 @@ constexpr int TextClickPage = 3; ///< what the text page is told at a click on a
 constexpr int NewObjectClickPage =
     4; ///< what the object page is told at a click on an object that was not selected
 
-using CSelectionRecorder = CUndoRecorder<CSelChangedUndoEvent>;
+enum class Click { Plain, Text, NewObject };
 
-// A shadow is nothing to click on; a frame stands for the object it frames.
-CImgNode* ClickedObject(CImgNode* pNode) {
-    if (!pNode || pNode->IsShadowNode()) {
-        return nullptr;
-    }
-    return pNode->IsFrameNode() ? pNode->m_pOwner : pNode;
-}
+using CSelectionRecorder = CUndoRecorder<CSelChangedUndoEvent>;
 
 /// Gathers what another tool records meanwhile, and deletes it: its steps never reach the undo stack.
 class [[nodiscard]] CDiscardUndoScope {
@@ -39,68 +36,17 @@ class [[nodiscard]] CDiscardUndoScope {
     CUndoEventList m_events;
 };
 
-} // namespace
-
-CImgNode* CToolCore::ClickedNode(CPoint point) { return ClickedObject(NodeUnderPoint(point)); }
-
-int CToolCore::OnLButtonDblClk(UINT nFlags, CPoint point) { return OnLButtonDown(nFlags, point); }
-
-int CToolCore::OnLButtonDown(UINT nFlags, CPoint point) {
-    CCanvas canvas(*this);
-    if (!canvas) {
+int HandOverPress(CListenerObject* pCurrent, UINT nFlags, CPoint point) {
+    IToolInput* pInput = bus::Query<IToolInput>(pCurrent);
+    if (!pInput) {
         return 0;
     }
-    if (IsOnExcludedNode(point) && !IsOnSelection(point)) {
-        DeselectAll(1);
-        return 1;
-    }
-    CImgNode* pNode = NodeUnderPoint(point);
-    if (!pNode && !canvas.Selection().IsEmpty()) {
-        return ClickEmptyGround();
-    }
-    return ClickObject(canvas, ClickedObject(pNode), nFlags, point);
+    CDiscardUndoScope discarded;
+    return pInput->OnLButtonDown(nFlags, point);
 }
 
-int CToolCore::ClickEmptyGround() {
-    CSelectionRecorder recorder(AsObjectTool());
-    if (!recorder.CaptureBefore()) {
-        return 0;
-    }
-    DeselectAll(1);
-    if (!recorder.RecordChange()) {
-        return 0;
-    }
-    SyncAttributePanels();
-    return 1;
-}
-
-int CToolCore::ClickObject(CCanvas& canvas, CImgNode* pNode, UINT nFlags, CPoint point) {
-    const Click click = ClassifyClick(canvas, pNode);
-    CSelectionRecorder recorder(AsObjectTool());
-    if (!recorder.CaptureBefore()) {
-        return 0;
-    }
-    if (click != Click::Plain) {
-        CListenerObject* pCurrent = AnnounceClick(canvas, click, pNode) ? CurrentTool() : nullptr;
-        if (!pCurrent) {
-            return 0;
-        }
-        if (pCurrent != this) {
-            IToolInput* pInput = bus::Query<IToolInput>(pCurrent);
-            const int nAnswer = pInput ? HandOverPress(*pInput, nFlags, point) : 0;
-            return recorder.RecordChange() ? nAnswer : 0;
-        }
-    }
-    SelectByClick(pNode);
-    if (!recorder.RecordChange()) {
-        return 0;
-    }
-    SyncAttributePanels();
-    return 1;
-}
-
-CToolCore::Click CToolCore::ClassifyClick(const CCanvas& canvas, const CImgNode* pNode) {
-    if (!pNode || IsCtrlDown()) {
+Click ClassifyClick(CTool& tool, const CCanvas& canvas, const CImgNode* pNode) {
+    if (!pNode || tool.IsCtrlDown()) {
         return Click::Plain;
     }
     if (pNode->m_nType == node_type::Text) {
@@ -109,46 +55,117 @@ CToolCore::Click CToolCore::ClassifyClick(const CCanvas& canvas, const CImgNode*
     return canvas.IsSelected(pNode) ? Click::Plain : Click::NewObject;
 }
 
-// The selection goes before the page is told, so that whatever tool the host now makes current finds none.
 // False when the page or its interface is missing.
-bool CToolCore::AnnounceClick(CCanvas& canvas, Click click, const CImgNode* pNode) {
-    if (OnlySelectedNode(canvas) != pNode) {
-        DeselectAll(1);
-    }
-    if (click == Click::Text) {
-        ITextAttributePanel* pPage = bus::FindService<ITextAttributePanel>(*this, kind::TextPage);
-        if (pPage) {
-            pPage->SelectPage(TextClickPage);
-        }
-        return pPage != nullptr;
-    }
-    IObjectPage* pPage = bus::FindService<IObjectPage>(*this, kind::ObjectPage);
+template <class TPage>
+bool TellPage(CTool& tool, int nKind, int nPage) {
+    TPage* pPage = bus::FindService<TPage>(tool, nKind);
     if (pPage) {
-        pPage->SelectPage(NewObjectClickPage);
+        pPage->SelectPage(nPage);
     }
     return pPage != nullptr;
 }
 
-int CToolCore::HandOverPress(IToolInput& input, UINT nFlags, CPoint point) {
-    CDiscardUndoScope discarded;
-    return input.OnLButtonDown(nFlags, point);
+// The selection goes before the page is told, so that whatever tool the host now makes current finds none.
+bool AnnounceClick(CTool& tool, const CCanvas& canvas, Click click, const CImgNode* pNode) {
+    if (canvas.OnlySelected() != pNode) {
+        tool.DeselectAll(1);
+    }
+    return click == Click::Text ? TellPage<ITextAttributePanel>(tool, kind::TextPage, TextClickPage)
+                                : TellPage<IObjectPage>(tool, kind::ObjectPage, NewObjectClickPage);
 }
 
-void CToolCore::SelectByClick(CImgNode* pNode) {
+void SelectByClick(CTool& tool, CImgNode* pNode) {
     if (!pNode) {
-        DeselectAll(1);
-    } else if (IsCtrlDown()) {
-        ToggleNode(pNode);
+        tool.DeselectAll(1);
+    } else if (tool.IsCtrlDown()) {
+        Toggle(tool, pNode);
     } else {
-        SelectOnlyNode(pNode);
+        SelectOnly(tool, pNode);
     }
 }
 
-int CToolCore::OnLButtonUp(UINT nFlags, CPoint point) {
-    CListenerObject* pCurrent = CurrentTool();
-    if (!pCurrent || pCurrent == this) {
+int FinishClick(CTool& tool, CSelectionRecorder& recorder) {
+    if (recorder.RecordChange(tool) == Recorded::NoCapture) {
+        return 0;
+    }
+    tool.SyncAttributePanels();
+    return 1;
+}
+
+int ClickEmptyGround(CTool& tool) {
+    CSelectionRecorder recorder;
+    if (!recorder.CaptureBefore(tool)) {
+        return 0;
+    }
+    tool.DeselectAll(1);
+    return FinishClick(tool, recorder);
+}
+
+int ClickObject(CTool& tool, const CCanvas& canvas, CImgNode* pNode, UINT nFlags, CPoint point) {
+    const Click click = ClassifyClick(tool, canvas, pNode);
+    CSelectionRecorder recorder;
+    if (!recorder.CaptureBefore(tool)) {
+        return 0;
+    }
+    if (click != Click::Plain) {
+        CListenerObject* pCurrent = AnnounceClick(tool, canvas, click, pNode) ? CurrentTool(tool) : nullptr;
+        if (!pCurrent) {
+            return 0;
+        }
+        if (pCurrent != &tool) {
+            const int nAnswer = HandOverPress(pCurrent, nFlags, point);
+            return recorder.RecordChange(tool) == Recorded::NoCapture ? 0 : nAnswer;
+        }
+    }
+    SelectByClick(tool, pNode);
+    return FinishClick(tool, recorder);
+}
+
+} // namespace
+
+int click::OnLButtonDown(CTool& tool, UINT nFlags, CPoint point) {
+    const CCanvas canvas(tool);
+    if (!canvas) {
+        return 0;
+    }
+    if (IsOnExcludedNode(tool, point) && !IsOnSelection(tool, point)) {
+        tool.DeselectAll(1);
+        return 1;
+    }
+    CImgNode* pNode = NodeUnderPoint(tool, point);
+    if (!pNode && canvas.HasSelection()) {
+        return ClickEmptyGround(tool);
+    }
+    return ClickObject(tool, canvas, ClickedObject(pNode), nFlags, point);
+}
+
+int click::OnLButtonUp(CTool& tool, UINT nFlags, CPoint point) {
+    CListenerObject* pCurrent = CurrentTool(tool);
+    if (!pCurrent || pCurrent == &tool) {
         return 0;
     }
     IToolInput* pInput = bus::Query<IToolInput>(pCurrent);
     return pInput ? pInput->OnLButtonUp(nFlags, point) : 0;
+}
+
+int click::SelectOnly(CTool& tool, CImgNode* pNode) {
+    const CCanvas canvas(tool);
+    if (!canvas) {
+        return 0;
+    }
+    if (!pNode) {
+        tool.DeselectAll(1);
+        return 1;
+    }
+    CNodeRefList selected;
+    CopyList(canvas.Selection(), selected);
+    for (CImgNode* pOther : Each(selected)) {
+        if (pOther != pNode) {
+            Toggle(tool, pOther);
+        }
+    }
+    if (!canvas.IsSelected(pNode)) {
+        Toggle(tool, pNode);
+    }
+    return 1;
 }

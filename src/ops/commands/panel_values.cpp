@@ -3,6 +3,7 @@
 #include "host/panels.h"
 #include "host/text_node.h"
 #include "ops/bus.h"
+#include "ops/nodes.h"
 #include "ops/saturate.h"
 #include "ops/shared_value.h"
 #include "text/editor/inplace_editor.h"
@@ -59,8 +60,8 @@ struct ShadowValues {
 template <class TValues>
 TValues Gather(const CImgNodeList& selection) {
     TValues values;
-    for (POSITION position = selection.GetHeadPosition(); position;) {
-        values.Add(*selection.GetNext(position));
+    for (const CImgNode* pNode : Each(selection)) {
+        values.Add(*pNode);
     }
     return values;
 }
@@ -69,14 +70,13 @@ bool HasRemovableFrame(const CImgNode& node) { return node.m_pFrameNode && node.
 
 } // namespace
 
-bool panel_sync::ShowText(CListenerObject& page, const CImgNodeList& selection) {
+bool panel_values::ShowText(CListenerObject& page, const CImgNodeList& selection) {
     ITextAttributePanel* pPanel = bus::Query<ITextAttributePanel>(&page);
     if (!pPanel) {
         return false;
     }
     TextValues values;
-    for (POSITION position = selection.GetHeadPosition(); position;) {
-        const CImgNode* pNode = selection.GetNext(position);
+    for (const CImgNode* pNode : Each(selection)) {
         if (pNode->m_nType == node_type::Text) {
             values.Add(*static_cast<const CTextNode*>(pNode));
         }
@@ -87,7 +87,7 @@ bool panel_sync::ShowText(CListenerObject& page, const CImgNodeList& selection) 
     return true;
 }
 
-void panel_sync::ShowDisplay(CListenerObject& page, const CImgNodeList& selection) {
+void panel_values::ShowDisplay(CListenerObject& page, const CImgNodeList& selection) {
     IDisplayPanel* pPanel = bus::Query<IDisplayPanel>(&page);
     if (!pPanel) {
         return;
@@ -95,8 +95,7 @@ void panel_sync::ShowDisplay(CListenerObject& page, const CImgNodeList& selectio
     CSharedValue<int> brightness;
     CSharedValue<int> contrast;
     CSharedValue<int> transparency;
-    for (POSITION position = selection.GetHeadPosition(); position;) {
-        const CImgNode* pNode = selection.GetNext(position);
+    for (const CImgNode* pNode : Each(selection)) {
         brightness.Add(pNode->m_nBrightness);
         contrast.Add(pNode->m_nContrast);
         transparency.Add(pNode->m_nTransparency);
@@ -105,7 +104,7 @@ void panel_sync::ShowDisplay(CListenerObject& page, const CImgNodeList& selectio
     }
 }
 
-void panel_sync::ShowShadow(CListenerObject& page, const CImgNodeList& selection) {
+void panel_values::ShowShadow(CListenerObject& page, const CImgNodeList& selection) {
     IShadowPanel* pPanel = bus::Query<IShadowPanel>(&page);
     if (!pPanel) {
         return;
@@ -127,15 +126,15 @@ void panel_sync::ShowShadow(CListenerObject& page, const CImgNodeList& selection
                        values.color.IsMixed() ? 1 : 0, 0);
 }
 
-bool panel_sync::ShowFrame(CListenerObject& page, const CImgNodeList& selection) {
+bool panel_values::ShowFrame(CListenerObject& page, const CImgNodeList& selection) {
     IFramePanel* pPanel = bus::Query<IFramePanel>(&page);
     if (!pPanel) {
         return false;
     }
-    int nRemovable = 0;
-    for (POSITION position = selection.GetHeadPosition(); position && !nRemovable;) {
-        nRemovable = HasRemovableFrame(*selection.GetNext(position)) ? 1 : 0;
+    bool bRemovable = false;
+    for (const CImgNode* pNode : Each(selection)) {
+        bRemovable = bRemovable || HasRemovableFrame(*pNode);
     }
-    pPanel->SetRemovable(nRemovable);
+    pPanel->SetRemovable(bRemovable ? 1 : 0);
     return true;
 }

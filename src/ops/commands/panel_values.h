@@ -5,7 +5,7 @@
 
 class CListenerObject;
 
-namespace panel_sync {
+namespace panel_values {
 
 /// The text values of the selected objects, to the page's text attribute panel. False when the page has none.
 bool ShowText(CListenerObject& page, const CImgNodeList& selection);
@@ -17,4 +17,4 @@ void ShowShadow(CListenerObject& page, const CImgNodeList& selection);
 /// Whether the selection has a frame that can be removed. False when the page has no frame panel.
 bool ShowFrame(CListenerObject& page, const CImgNodeList& selection);
 
-} // namespace panel_sync
+} // namespace panel_values

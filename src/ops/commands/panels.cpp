@@ -1,11 +1,12 @@
-// Which property page suits the selection and the tool, and what it shows.
-#include "host/panels.h"
+#include "ops/commands/panels.h"
+
 #include "host/document_service.h"
+#include "host/panels.h"
 #include "host/tool_ids.h"
 #include "ops/bus.h"
+#include "ops/canvas.h"
 #include "ops/commands/panel_values.h"
 #include "ops/selection_class.h"
-#include "tools/tool_core.h"
 
 namespace {
 
@@ -73,11 +74,28 @@ bool ShowToolPage(CListenerObject& tool, CListenerObject& property) {
     return true;
 }
 
+bool FillPanels(CTool& tool, CListenerObject& page, bool bTextValues) {
+    const CCanvas canvas(tool);
+    if (!canvas.HasDocument()) {
+        return false;
+    }
+    if (bTextValues && !panel_values::ShowText(page, canvas.Selection())) {
+        return false;
+    }
+    panel_values::ShowDisplay(page, canvas.Selection());
+    panel_values::ShowShadow(page, canvas.Selection());
+    if (!bus::IsOfKind(tool, tool_kind::FrameBase)) {
+        return true;
+    }
+    CListenerObject* pPage = bus::FindObject(tool, CategoryId, kind::PropertyArea);
+    return pPage && panel_values::ShowFrame(*pPage, canvas.Selection());
+}
+
 } // namespace
 
-int CToolCore::SyncAttributePanels() {
-    const int nClass = ClassifySelection();
-    CListenerObject* pPage = bus::FindObject(*this, CategoryId, kind::PropertyArea);
+int panels::SyncAttributePanels(CTool& tool) {
+    const int nClass = tool.ClassifySelection();
+    CListenerObject* pPage = bus::FindObject(tool, CategoryId, kind::PropertyArea);
     if (!pPage) {
         return 1;
     }
@@ -89,37 +107,27 @@ int CToolCore::SyncAttributePanels() {
         ChoosePage(nClass, bus::IsOfKind(*pPage, kind::ObjectPage), bus::IsOfKind(*pPage, kind::TextPage));
     pArea->ShowPage(choice.nPage);
     if (choice.then == Then::Reset) {
-        ResetHost();
+        tool.ResetHost();
     }
     if (choice.then == Then::Reset || choice.then == Then::Stop) {
         return 1;
     }
-    return FillPanels(*pPage, choice.then == Then::FillText) ? 1 : 0;
+    return FillPanels(tool, *pPage, choice.then == Then::FillText) ? 1 : 0;
 }
 
-bool CToolCore::FillPanels(CListenerObject& page, bool bTextValues) {
-    CCanvas canvas(*this);
-    if (!canvas.HasDocument()) {
-        return false;
-    }
-    if (bTextValues && !panel_sync::ShowText(page, canvas.Selection())) {
-        return false;
-    }
-    panel_sync::ShowDisplay(page, canvas.Selection());
-    panel_sync::ShowShadow(page, canvas.Selection());
-    if (!bus::IsOfKind(*this, tool_kind::FrameBase)) {
-        return true;
-    }
-    CListenerObject* pPage = bus::FindObject(*this, CategoryId, kind::PropertyArea);
-    return pPage && panel_sync::ShowFrame(*pPage, canvas.Selection());
-}
-
-int CToolCore::SyncToolPanel() {
-    ICurrentToolService* pService = bus::FindService<ICurrentToolService>(*this, kind::Document);
-    CListenerObject* pProperty = pService ? pService->GetPropertyObject(GetToolClassId()) : nullptr;
-    if (!pProperty || !ShowToolPage(*this, *pProperty)) {
+int panels::SyncToolPanel(CTool& tool) {
+    ICurrentToolService* pService = bus::FindService<ICurrentToolService>(tool, kind::Document);
+    CListenerObject* pProperty = pService ? pService->GetPropertyObject(tool.GetToolClassId()) : nullptr;
+    if (!pProperty || !ShowToolPage(tool, *pProperty)) {
         return 0;
     }
-    SyncAttributePanels();
+    tool.SyncAttributePanels();
+    return 1;
+}
+
+int panels::ResetHost(CTool& tool) {
+    if (IHostReset* pReset = bus::FindService<IHostReset>(tool, kind::PropertyArea)) {
+        pReset->Reset(0);
+    }
     return 1;
 }

@@ -1,35 +1,33 @@
-// Recording what objects look like, and what the page holds, before a change.
-#include "tools/tool_core.h"
+#include "ops/commands/records.h"
+
+#include "ops/canvas.h"
+#include "ops/nodes.h"
 #include "undo/add_object_event.h"
 #include "undo/attribute_changed_event.h"
 #include "undo/recorder.h"
+#include "undo/sel_changed_event.h"
 
-int CToolCore::RecordAttributeUndoForSelection(UINT nDescriptionId) {
-    CCanvas canvas(*this);
-    if (!canvas.HasDocument() || canvas.Selection().IsEmpty()) {
+int records::RecordSelectionUndo(CTool& tool) { return RecordState<CSelChangedUndoEvent>(tool); }
+
+int records::RecordAttributeUndoForSelection(CTool& tool, UINT nDescriptionId) {
+    const CCanvas canvas(tool);
+    if (!canvas.HasSelection()) {
         return 1;
     }
     CNodeRefList nodes;
-    m_fnCopySelection(canvas, nodes);
-    return RecordAttributeUndo(nodes, nDescriptionId);
+    CopyList(canvas.Selection(), nodes);
+    return tool.RecordAttributeUndo(nodes, nDescriptionId);
 }
 
-int CToolCore::RecordAttributeUndo(CNodeRefList& nodes, UINT nDescriptionId) {
+int records::RecordAttributeUndo(CTool& tool, CNodeRefList& nodes, UINT nDescriptionId) {
     std::unique_ptr<CObjectAttributeChangedUndoEvent> pEvent(new CObjectAttributeChangedUndoEvent);
     if (!pEvent) {
         return 0;
     }
-    pEvent->m_fnSaveState(AsObjectTool(), nodes);
+    pEvent->m_fnSaveState(&tool, nodes);
     pEvent->m_fnSetUndoEventDescriptionText(nDescriptionId);
     RecordEvent(pEvent);
     return 1;
 }
 
-int CToolCore::RecordAddObjectUndo() {
-    std::unique_ptr<CAddObjectUndoEvent> pEvent = CaptureState<CAddObjectUndoEvent>(AsObjectTool());
-    if (!pEvent) {
-        return 0;
-    }
-    RecordEvent(pEvent);
-    return 1;
-}
+int records::RecordAddObjectUndo(CTool& tool) { return RecordState<CAddObjectUndoEvent>(tool); }

@@ -1,11 +1,12 @@
-// The seven alignments. Positions are document units; bounds include the frame.
+#include "ops/objects/align.h"
+
 #include <algorithm>
 #include <array>
 
 #include "ops/axis.h"
 #include "ops/objects/arrange_scope.h"
+#include "ops/objects/offset.h"
 #include "ops/objects/visibility.h"
-#include "tools/tool_core.h"
 
 namespace {
 
@@ -58,17 +59,54 @@ int ToMiddle(long long nBoxNear, long long nBoxFar, long long nNear, long long n
     return Saturated((nBoxFar + nBoxNear) / 2 - (nFar - nNear) / 2 - nNear);
 }
 
+// Every other object's edge moves onto the reference's; one that would leave the view comes back to the
+// margin.
+void AlignTo(CImgNode& reference, const ReferenceRule& rule, const CArrangeScope& arrange) {
+    const CVisibleSpan span(arrange.Canvas(), rule.axis);
+    const long long nEdge = EdgeOf(reference.m_fnGetBoundRectWithFrame(), rule);
+    for (CImgNode* pNode : Each(arrange.Nodes())) {
+        if (pNode == &reference) {
+            continue;
+        }
+        OffsetObject(pNode, Along(rule.axis, nEdge - EdgeOf(pNode->m_fnGetBoundRectWithFrame(), rule)));
+        const CRect rc = pNode->m_fnGetBoundRectWithFrame();
+        OffsetObject(pNode, Along(rule.axis, rule.bFar ? span.BackFromFar(NearEdge(rc, rule.axis))
+                                                       : span.BackFromNear(FarEdge(rc, rule.axis))));
+    }
+}
+
+void AlignEdge(CTool& tool, int nRule) {
+    CArrangeScope arrange(tool);
+    CImgNode* pReference = arrange ? align::PickReference(tool, arrange.Nodes(), nRule) : nullptr;
+    if (pReference) {
+        AlignTo(*pReference, RuleOf(nRule), arrange);
+    }
+}
+
+enum class Axes { Horizontal, Vertical, Both };
+
+void AlignToMiddle(CTool& tool, Axes axes) {
+    CArrangeScope arrange(tool);
+    Box box;
+    for (CImgNode* pNode : Each(arrange.Nodes())) {
+        box.Add(pNode->m_fnGetBoundRectWithFrame());
+    }
+    for (CImgNode* pNode : Each(arrange.Nodes())) {
+        const CRect rc = pNode->m_fnGetBoundRectWithFrame();
+        const int nX = ToMiddle(box.nLeft, box.nRight, rc.left, rc.right);
+        const int nY = ToMiddle(box.nTop, box.nBottom, rc.top, rc.bottom);
+        OffsetObject(pNode, CSize(axes == Axes::Vertical ? 0 : nX, axes == Axes::Horizontal ? 0 : nY));
+    }
+}
+
 } // namespace
 
-CImgNode* CToolCore::m_fnPickReference(const CNodeRefList& nodes, int nRule) {
+CImgNode* align::PickReference(CTool& tool, const CNodeRefList& nodes, int nRule) {
     const ReferenceRule& rule = RuleOf(nRule);
     CImgNode* pReference = nullptr;
     long long nBest = 0;
-    for (POSITION position = nodes.GetHeadPosition(); position;) {
-        CImgNode* pNode = nodes.GetNext(position);
-        CRect rc(0, 0, 0, 0);
-        GetNodeRect(pNode, &rc);
-        const long long nEdge = EdgeOf(rc, rule);
+    for (CImgNode* pNode : Each(nodes)) {
+        const long long nEdge = EdgeOf(NodeRect(tool, pNode), rule);
         if (!pReference || (rule.bGreatest ? nEdge > nBest : nEdge < nBest)) {
             pReference = pNode;
             nBest = nEdge;
@@ -77,68 +115,16 @@ CImgNode* CToolCore::m_fnPickReference(const CNodeRefList& nodes, int nRule) {
     return pReference;
 }
 
-// Every other object's edge moves onto the reference's; one that would leave the view comes back to the
-// margin.
-void CToolCore::AlignEdge(int nRule) {
-    CCanvas canvas(*this);
-    if (!canvas) {
-        return;
-    }
-    CArrangeScope arrange(canvas, *this);
-    CNodeRefList nodes;
-    m_fnCopySelection(canvas, nodes);
-    const CImgNode* pReference = m_fnPickReference(nodes, nRule);
-    if (!pReference) {
-        return;
-    }
-    const ReferenceRule& rule = RuleOf(nRule);
-    const CVisibleSpan span(canvas, rule.axis);
-    const long long nEdge = EdgeOf(const_cast<CImgNode*>(pReference)->m_fnGetBoundRectWithFrame(), rule);
-    for (POSITION position = nodes.GetHeadPosition(); position;) {
-        CImgNode* pNode = nodes.GetNext(position);
-        if (pNode == pReference) {
-            continue;
-        }
-        m_fnOffsetObject(pNode, Along(rule.axis, nEdge - EdgeOf(pNode->m_fnGetBoundRectWithFrame(), rule)));
-        const CRect rc = pNode->m_fnGetBoundRectWithFrame();
-        const long long nBack =
-            rule.bFar ? span.BackFromFar(NearEdge(rc, rule.axis)) : span.BackFromNear(FarEdge(rc, rule.axis));
-        if (nBack != 0) {
-            m_fnOffsetObject(pNode, Along(rule.axis, nBack));
-        }
-    }
-}
+void align::Left(CTool& tool) { AlignEdge(tool, 0); }
 
-void CToolCore::AlignToMiddle(bool bHorizontally, bool bVertically) {
-    CCanvas canvas(*this);
-    if (!canvas) {
-        return;
-    }
-    CArrangeScope arrange(canvas, *this);
-    CNodeRefList nodes;
-    m_fnCopySelection(canvas, nodes);
-    Box box;
-    for (POSITION position = nodes.GetHeadPosition(); position;) {
-        box.Add(nodes.GetNext(position)->m_fnGetBoundRectWithFrame());
-    }
-    for (POSITION position = nodes.GetHeadPosition(); position;) {
-        CImgNode* pNode = nodes.GetNext(position);
-        const CRect rc = pNode->m_fnGetBoundRectWithFrame();
-        m_fnOffsetObject(pNode, CSize(bHorizontally ? ToMiddle(box.nLeft, box.nRight, rc.left, rc.right) : 0,
-                                      bVertically ? ToMiddle(box.nTop, box.nBottom, rc.top, rc.bottom) : 0));
-    }
-}
+void align::Top(CTool& tool) { AlignEdge(tool, 2); }
 
-void CToolCore::m_fnAlignLeft() { AlignEdge(0); }
+void align::Right(CTool& tool) { AlignEdge(tool, 4); }
 
-void CToolCore::m_fnAlignTop() { AlignEdge(2); }
+void align::Bottom(CTool& tool) { AlignEdge(tool, 6); }
 
-void CToolCore::m_fnAlignRight() { AlignEdge(4); }
+void align::Middle(CTool& tool) { AlignToMiddle(tool, Axes::Vertical); }
 
-void CToolCore::m_fnAlignBottom() { AlignEdge(6); }
+void align::Center(CTool& tool) { AlignToMiddle(tool, Axes::Horizontal); }
 
-void CToolCore::m_fnAlignMiddle() { AlignToMiddle(false, true); }
-
-void CToolCore::m_fnAlignCenter() { AlignToMiddle(true, false); }
-
-void CToolCore::m_fnAlignCenters() { AlignToMiddle(true, true); }
+void align::Centers(CTool& tool) { AlignToMiddle(tool, Axes::Both); }

@@ -2,30 +2,36 @@
 // area after.
 #pragma once
 
-#include "host/tool_interfaces.h"
 #include "ops/canvas.h"
+#include "ops/nodes.h"
 #include "ops/refresh.h"
 
+/// False without a view; then nothing is shown either.
 class [[nodiscard]] CArrangeScope {
   public:
-    CArrangeScope(CCanvas& canvas, IToolObjectOps& tool) : m_canvas(canvas), m_tool(tool) { AddArea(); }
+    explicit CArrangeScope(CTool& tool) : m_tool(tool), m_canvas(tool), m_area(tool) {
+        if (m_canvas) {
+            CopyList(m_canvas.Selection(), m_nodes);
+        }
+    }
     /// Refreshes the union of both areas and notifies; no panel is synced.
     ~CArrangeScope() {
-        AddArea();
-        m_refresh.FlushMarkRepaint(m_canvas.View(), m_tool);
-        NotifyChangedThenRedrawn(m_tool);
+        if (m_canvas) {
+            m_area.After().FlushMarkRepaint(m_canvas, m_tool);
+            NotifyChangedThenRedrawn(m_tool);
+        }
     }
     CArrangeScope(const CArrangeScope&) = delete;
     CArrangeScope& operator=(const CArrangeScope&) = delete;
 
-  private:
-    void AddArea() {
-        CRect rc(0, 0, 0, 0);
-        m_tool.GetSelectionOutlineRect(&rc);
-        m_refresh.Add(rc);
-    }
+    explicit operator bool() const { return static_cast<bool>(m_canvas); }
+    const CCanvas& Canvas() const { return m_canvas; }
+    /// The selection, in its order.
+    const CNodeRefList& Nodes() const { return m_nodes; }
 
-    CCanvas& m_canvas;
-    IToolObjectOps& m_tool;
-    CRefresh m_refresh;
+  private:
+    CTool& m_tool;
+    CCanvas m_canvas;
+    CTouchedArea m_area;
+    CNodeRefList m_nodes;
 };

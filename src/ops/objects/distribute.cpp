@@ -1,11 +1,12 @@
-// Distributing the selected objects between the first and the last of them along one axis.
+#include "ops/objects/distribute.h"
+
 #include <algorithm>
 #include <vector>
 
 #include "ops/axis.h"
 #include "ops/objects/arrange_scope.h"
+#include "ops/objects/offset.h"
 #include "ops/objects/visibility.h"
-#include "tools/tool_core.h"
 
 namespace {
 
@@ -25,8 +26,8 @@ struct Distribution {
 
 std::vector<CImgNode*> OrderedAlong(Axis axis, const CNodeRefList& nodes) {
     std::vector<CImgNode*> order;
-    for (POSITION position = nodes.GetHeadPosition(); position;) {
-        order.push_back(nodes.GetNext(position));
+    for (CImgNode* pNode : Each(nodes)) {
+        order.push_back(pNode);
     }
     std::stable_sort(order.begin(), order.end(), [axis](CImgNode* pNode, CImgNode* pOther) {
         const CRect rc = BoundsOf(pNode);
@@ -72,22 +73,27 @@ Distribution Plan(Axis axis, const CNodeRefList& nodes) {
     return plan;
 }
 
-} // namespace
+// Four corrections, each on the bounds read afresh, but for the last: it uses the near edge read before the
+// third.
+void KeepBetween(const CVisibleSpan& span, Axis axis, CImgNode* pNode, const Distribution& plan) {
+    const long long nNear = NearEdge(BoundsOf(pNode), axis);
+    if (nNear < NearEdge(plan.rcFirst, axis)) {
+        OffsetObject(pNode, Along(axis, NearEdge(plan.rcFirst, axis) - nNear));
+    }
+    const long long nFar = FarEdge(BoundsOf(pNode), axis);
+    if (nFar > FarEdge(plan.rcLast, axis)) {
+        OffsetObject(pNode, Along(axis, FarEdge(plan.rcLast, axis) - nFar));
+    }
+    const CRect rc = BoundsOf(pNode);
+    OffsetObject(pNode, Along(axis, span.BackFromNear(FarEdge(rc, axis))));
+    OffsetObject(pNode, Along(axis, span.BackFromFar(NearEdge(rc, axis))));
+}
 
-void CToolCore::Distribute(Axis axis) {
-    CCanvas canvas(*this);
-    if (!canvas) {
-        return;
-    }
-    CArrangeScope arrange(canvas, *this);
-    CNodeRefList nodes;
-    m_fnCopySelection(canvas, nodes);
-    if (nodes.GetCount() < 2) {
-        return;
-    }
-    const Distribution plan = Plan(axis, nodes);
+// Objects with room between the outer two share the free space, so that the rounding does not add up; the
+// others are centred between them.
+void Place(const Distribution& plan, Axis axis, const CVisibleSpan& span) {
     long long nReached = FarEdge(plan.rcFirst, axis);
-    long long nShare = 1; // of the free space, so that the rounding does not add up
+    long long nShare = 1;
     for (CImgNode* pNode : plan.order) {
         if (pNode == plan.pFirst || pNode == plan.pLast) {
             continue;
@@ -95,40 +101,27 @@ void CToolCore::Distribute(Axis axis) {
         const CRect rc = BoundsOf(pNode);
         const long long nExtent = Extent(rc, axis);
         if (nExtent < plan.nSpan) {
-            m_fnOffsetObject(pNode,
-                             Along(axis, nReached + nShare * plan.nFree / plan.nGaps - NearEdge(rc, axis)));
+            OffsetObject(pNode,
+                         Along(axis, nReached + nShare * plan.nFree / plan.nGaps - NearEdge(rc, axis)));
             nReached += nExtent;
             ++nShare;
         } else {
             const long long nMiddle = (FarEdge(plan.rcFirst, axis) + NearEdge(plan.rcLast, axis)) / 2;
-            m_fnOffsetObject(pNode, Along(axis, nMiddle - (FarEdge(rc, axis) + NearEdge(rc, axis)) / 2));
+            OffsetObject(pNode, Along(axis, nMiddle - (FarEdge(rc, axis) + NearEdge(rc, axis)) / 2));
         }
-        KeepBetween(canvas, axis, pNode, plan.rcFirst, plan.rcLast);
+        KeepBetween(span, axis, pNode, plan);
     }
 }
 
-// Four corrections, each on the bounds read afresh, but for the last: it uses the near edge read before the
-// third.
-void CToolCore::KeepBetween(const CCanvas& canvas, Axis axis, CImgNode* pNode, const CRect& rcFirst,
-                            const CRect& rcLast) {
-    const long long nNear = NearEdge(BoundsOf(pNode), axis);
-    if (nNear < NearEdge(rcFirst, axis)) {
-        m_fnOffsetObject(pNode, Along(axis, NearEdge(rcFirst, axis) - nNear));
-    }
-    const long long nFar = FarEdge(BoundsOf(pNode), axis);
-    if (nFar > FarEdge(rcLast, axis)) {
-        m_fnOffsetObject(pNode, Along(axis, FarEdge(rcLast, axis) - nFar));
-    }
-    const CVisibleSpan span(canvas, axis);
-    const CRect rc = BoundsOf(pNode);
-    if (const long long nBack = span.BackFromNear(FarEdge(rc, axis))) {
-        m_fnOffsetObject(pNode, Along(axis, nBack));
-    }
-    if (const long long nBack = span.BackFromFar(NearEdge(rc, axis))) {
-        m_fnOffsetObject(pNode, Along(axis, nBack));
+void Distribute(CTool& tool, Axis axis) {
+    CArrangeScope arrange(tool);
+    if (arrange.Nodes().GetCount() >= 2) {
+        Place(Plan(axis, arrange.Nodes()), axis, CVisibleSpan(arrange.Canvas(), axis));
     }
 }
 
-void CToolCore::m_fnDistributeVertically() { Distribute(Axis::Vertical); }
+} // namespace
 
-void CToolCore::m_fnDistributeHorizontally() { Distribute(Axis::Horizontal); }
+void distribute::Vertically(CTool& tool) { Distribute(tool, Axis::Vertical); }
+
+void distribute::Horizontally(CTool& tool) { Distribute(tool, Axis::Horizontal); }

@@ -1,17 +1,17 @@
-// Giving one object the look of another.
+#include "ops/objects/look.h"
+
 #include <memory>
-#include <utility>
 
 #include "frames/frame_place.h"
-#include "text/object/text_attributes.h"
-#include "tools/tool_core.h"
+#include "ops/canvas.h"
+#include "ops/groups.h"
+#include "ops/objects/offset.h"
+#include "ops/objects/resize.h"
+#include "shadows/shadow_build.h"
+#include "text/object/text_build.h"
+#include "text/object/text_place.h"
 
 namespace {
-
-void DropCompanions(CImgNode& node) {
-    delete std::exchange(node.m_pShadowNode, nullptr);
-    delete std::exchange(node.m_pFrameNode, nullptr);
-}
 
 // A copy of the source's frame in front of the target, or at the head when that is off the page. It becomes
 // the target's own only when linked. Null when there is no frame or no memory for it.
@@ -21,8 +21,8 @@ CImgNode* CopyFrameFor(CImgNode& target, const CImgNode& source, CImgNodeList& o
         return nullptr;
     }
     pCopy->m_pOwner = &target;
-    if (POSITION position = objects.Find(&target)) {
-        objects.InsertBefore(position, pCopy);
+    if (POSITION place = objects.Find(&target)) {
+        objects.InsertBefore(place, pCopy);
     } else {
         objects.AddHead(pCopy);
     }
@@ -47,11 +47,33 @@ void LinkFrame(CImgNode& target, CImgNode* pFrame, CImgNode& source) {
     RestoreFrameLink(target, link);
 }
 
+void TakeTextLook(CTool& tool, CTextNode& target, CTextNode& rebuilt, const CTextNode& source) {
+    const CPoint ptCorner = CornerOf(target);
+    TakePlace(tool, target, rebuilt, {FrameRule::Kept, ShadowRule::Kept, DisplayRule::FromRebuilt});
+    MoveCornerTo(target, ptCorner);
+    CopyEffect(target, source);
+}
+
+// The target has lost its own companions; the source's stand in their places afterwards.
+bool TakeLook(CTool& tool, const CCanvas& canvas, CImgNode& target, CImgNode& source, CTextNode* pRebuilt) {
+    const bool bShadow = source.m_pShadowNode != nullptr;
+    FreeCompanion(target.m_pShadowNode);
+    FreeCompanion(target.m_pFrameNode);
+    CImgNode* const pFrame = CopyFrameFor(target, source, canvas.Objects());
+    if (pRebuilt) {
+        TakeTextLook(tool, *AsText(&target), *pRebuilt, *AsText(&source));
+    } else {
+        ResizeObject(tool, &target, CRect(CornerOf(target), SizeOf(source)));
+    }
+    LinkFrame(target, pFrame, source);
+    return CopyDisplayValues(target, source) && (!bShadow || CreateShadow(tool, &target, source.m_shadow));
+}
+
 } // namespace
 
 // The text is made before anything is taken away, so that a failure loses nothing.
-int CToolCore::CopyNodeLook(CImgNode* pSource, CImgNode* pTarget) {
-    CCanvas canvas(*this);
+int look::CopyNodeLook(CTool& tool, CImgNode* pSource, CImgNode* pTarget) {
+    const CCanvas canvas(tool);
     if (!pSource || !pTarget || !canvas.HasDocument()) {
         return 0;
     }
@@ -61,43 +83,16 @@ int CToolCore::CopyNodeLook(CImgNode* pSource, CImgNode* pTarget) {
     const CPoint ptMiddle = MiddleOf(*pTarget);
     std::unique_ptr<CTextNode> pRebuilt;
     if (const CTextNode* pText = AsText(pSource)) {
-        pRebuilt.reset(TextInLookOf(*AsText(pTarget), *pText));
+        pRebuilt = BuildPlainText(tool, *pText, TextOf(*AsText(pTarget)));
         if (!pRebuilt) {
             return 0;
         }
     }
-    const bool bShadow = pSource->m_pShadowNode != nullptr;
-    DropCompanions(*pTarget);
-    CImgNode* const pFrame = CopyFrameFor(*pTarget, *pSource, canvas.Objects());
-    if (pRebuilt) {
-        TakeTextLook(*AsText(pTarget), *pRebuilt, *AsText(pSource));
-    } else {
-        m_fnResizeObject(pTarget, CRect(CornerOf(*pTarget), SizeOf(*pSource)));
-    }
-    LinkFrame(*pTarget, pFrame, *pSource);
-    if (!CopyDisplayValues(*pTarget, *pSource) ||
-        (bShadow && !m_fnCreateShadow(pTarget, pSource->m_shadow))) {
+    if (!TakeLook(tool, canvas, *pTarget, *pSource, pRebuilt.get())) {
         return 0;
     }
-    m_fnOffsetObject(pTarget, ptMiddle - MiddleOf(*pTarget));
-    KeepNodeInView(pTarget);
-    OnObjectHook(pTarget);
+    OffsetObject(pTarget, ptMiddle - MiddleOf(*pTarget));
+    tool.KeepNodeInView(pTarget);
+    tool.OnObjectHook(pTarget);
     return 1;
-}
-
-// The target's own text with the source's attributes; null when it cannot be made.
-CTextNode* CToolCore::TextInLookOf(const CTextNode& target, const CTextNode& source) {
-    TextAttributes attributes;
-    return ReadAttributes(source, attributes) ? m_fnCreateText(TextOf(target), attributes) : nullptr;
-}
-
-void CToolCore::TakeTextLook(CTextNode& target, CTextNode& rebuilt, const CTextNode& source) {
-    const CPoint ptCorner = CornerOf(target);
-    const CShadowParam shadow = target.m_shadow;
-    const FrameLink frame = FrameLinkOf(target);
-    target.m_fnMoveMemberDataFrom(&rebuilt);
-    target.m_shadow = shadow;
-    RestoreFrameLink(target, frame);
-    MoveCornerTo(target, ptCorner);
-    CopyEffect(target, source);
 }

@@ -1,74 +1,52 @@
-// Operations on objects with their companions, and the services that hand them to the host.
-#include <memory>
+#include "ops/objects/offset.h"
 
+#include "ops/canvas.h"
 #include "ops/groups.h"
-#include "tools/tool_core.h"
+#include "ops/saturate.h"
+#include "ops/view_margin.h"
 
 namespace {
 
-constexpr std::int32_t ErrorNone = 0;
-constexpr std::int32_t ErrorNullArgument = 1;
-constexpr std::int32_t ErrorFailed = 3;
-
-int Answer(std::int32_t* pError, std::int32_t nError) {
-    if (pError) {
-        *pError = nError;
+// One axis of the way back into the view; where both rules hold, the later one wins.
+int WayBack(long long nNodeNear, long long nNodeFar, long long nViewNear, long long nViewFar) {
+    long long nDelta = 0;
+    if (nNodeNear > nViewFar) {
+        nDelta = nViewFar - nNodeNear;
     }
-    return nError == ErrorNone ? 1 : 0;
+    if (nNodeFar < nViewNear) {
+        nDelta = nViewNear - nNodeFar;
+    }
+    return Saturated(nDelta);
 }
 
 } // namespace
 
-int CToolCore::m_fnOffsetObject(CImgNode* pNode, CSize offset) {
+int OffsetObject(CImgNode* pNode, CSize offset) {
     if (!pNode) {
         return 1;
     }
     if (pNode->IsShadowNode() || pNode->IsFrameNode()) {
         return 0;
     }
-    pNode->Move(offset.cx, offset.cy);
-    if (pNode->m_pFrameNode) {
-        pNode->m_pFrameNode->Move(offset.cx, offset.cy);
-    }
-    if (pNode->m_pShadowNode) {
-        pNode->m_pShadowNode->Move(offset.cx, offset.cy);
-    }
+    MoveGroup(*pNode, offset);
     return 1;
 }
 
-CImgNode* CToolCore::m_fnDuplicateObject(CImgNode* pNode, int nAdd) {
-    CCanvas canvas(*this);
-    if (!pNode || !canvas.HasDocument()) {
-        return nullptr;
+int KeepInView(CTool& tool, CImgNode* pNode) {
+    const CCanvas canvas(tool);
+    CRect rcOld;
+    if (!canvas || !pNode || !tool.GetNodeRect(pNode, &rcOld)) {
+        return 0;
     }
-    CImgNode* pCopy = CopyObject(*pNode, &CImgNode::Duplicate);
-    if (pCopy && nAdd == 1) {
-        AddGroupAtHead(canvas.Objects(), pCopy);
-        m_fnKeepExcludedNodeInFront(canvas);
-    }
-    return pCopy;
-}
+    CRect rcView = canvas.ClientRect();
+    rcView.DeflateRect(ViewMargin, ViewMargin);
+    const CSize delta(WayBack(rcOld.left, rcOld.right, rcView.left, rcView.right),
+                      WayBack(rcOld.top, rcOld.bottom, rcView.top, rcView.bottom));
+    OffsetObject(pNode, canvas.DeltaToDocument(delta));
 
-int CToolCore::DuplicateNode(CImgNode* pNode, CImgNode** ppCopy, int nAdd, std::int32_t* pError) {
-    if (!pNode || !ppCopy) {
-        return Answer(pError, ErrorNullArgument);
-    }
-    *ppCopy = m_fnDuplicateObject(pNode, nAdd);
-    return Answer(pError, *ppCopy ? ErrorNone : ErrorFailed);
+    CRect rcNew;
+    tool.GetNodeRect(pNode, &rcNew);
+    CRect rcCommon;
+    rcCommon.IntersectRect(&rcOld, &rcNew);
+    return rcCommon.Width() != rcOld.Width() && rcCommon.Height() != rcOld.Height() ? 1 : 0;
 }
-
-int CToolCore::IsPointOnSelection(CPoint* pPoint, std::int32_t* pnAnswer, std::int32_t* pError) {
-    if (!pPoint || !pnAnswer) {
-        return Answer(pError, ErrorNullArgument);
-    }
-    *pnAnswer = IsOnSelection(*pPoint) ? 1 : 0;
-    return Answer(pError, ErrorNone);
-}
-
-int CToolCore::CreateNodeShadow(CImgNode* pNode, int nOffsetX, int nOffsetY, COLORREF* pcrColor,
-                                int nSoftness, int nTransparency, std::int32_t* pError) {
-    const int nMade = m_fnCreateShadow(pNode, nOffsetX, nOffsetY, pcrColor, nSoftness, nTransparency);
-    return Answer(pError, nMade ? ErrorNone : ErrorFailed);
-}
-
-int CToolCore::KeepNodeInView(CImgNode*) { return 0; }

@@ -1,10 +1,14 @@
-// Resizing an object with its companions, and the three size matchings. Rectangles are document units.
+#include "ops/objects/resize.h"
+
 #include <algorithm>
 
-#include "ops/objects/arrange_scope.h"
-#include "ops/saturate.h"
+#include "host/panels.h"
+#include "ops/axis.h"
+#include "ops/bus.h"
+#include "shadows/shadow_build.h"
+#include "text/editor/inplace_editor.h"
 #include "text/object/text_attributes.h"
-#include "tools/tool_core.h"
+#include "text/object/text_replace.h"
 
 namespace {
 
@@ -38,11 +42,6 @@ class CBoxMap {
     double m_dY;
 };
 
-CSize ExtentOf(const CRect& rc) {
-    return CSize(Saturated(static_cast<long long>(rc.right) - rc.left),
-                 Saturated(static_cast<long long>(rc.bottom) - rc.top));
-}
-
 // The picture with its own proportions, as large as it fits, in the middle of the rectangle.
 CRect FittedIn(const CRect& rc, const CImgNode& node) {
     if (node.m_nKeepProportions != 1 || node.m_nPictureWidth <= 0 || node.m_nPictureHeight <= 0) {
@@ -70,9 +69,19 @@ void ResizeFramed(CImgNode& node, const CRect& rcTarget) {
     }
 }
 
+// The greater scale wins, so the text covers the rectangle in both directions.
+int ResizeText(CTool& tool, CTextNode& text, const CRect& rcTarget) {
+    const CRect rcOld = text.m_fnGetBoundRectWithFrame();
+    const double dScale =
+        std::max(ScaleOf(rcTarget.Width(), rcOld.Width()), ScaleOf(rcTarget.Height(), rcOld.Height()));
+    const std::optional<int> nPixelSize = ScaledTextSize(tool, text, dScale);
+    const CPoint ptCorner = rcOld.TopLeft();
+    return nPixelSize ? RebuildTextAtSize(tool, &text, *nPixelSize, &ptCorner) : 0;
+}
+
 } // namespace
 
-int CToolCore::m_fnResizeObject(CImgNode* pNode, const CRect& rcTarget) {
+int ResizeObject(CTool& tool, CImgNode* pNode, const CRect& rcTarget) {
     if (!pNode) {
         return 1;
     }
@@ -80,7 +89,7 @@ int CToolCore::m_fnResizeObject(CImgNode* pNode, const CRect& rcTarget) {
         return 0;
     }
     if (CTextNode* pText = AsText(pNode)) {
-        return ResizeText(*pText, rcTarget);
+        return ResizeText(tool, *pText, rcTarget);
     }
     const bool bShadowed = pNode->m_pShadowNode != nullptr;
     if (pNode->m_pFrameNode) {
@@ -90,40 +99,17 @@ int CToolCore::m_fnResizeObject(CImgNode* pNode, const CRect& rcTarget) {
     }
     pNode->m_fnAdjustImageNodeBuf(0, 0);
     if (bShadowed) {
-        m_fnRegenerateShadow(pNode);
+        RegenerateShadow(tool, pNode);
     }
     return 1;
 }
 
-// Left and top edges stay; what is matched takes the greatest extent of all selected objects.
-void CToolCore::MatchSizes(bool bWidth, bool bHeight) {
-    CCanvas canvas(*this);
-    if (!canvas) {
-        return;
+std::optional<int> ScaledTextSize(CTool& tool, const CTextNode& text, double dScale) {
+    ITextAttributePanel* const pPanel = bus::FindService<ITextAttributePanel>(tool, kind::TextPage);
+    if (!pPanel) {
+        return std::nullopt;
     }
-    CArrangeScope arrange(canvas, *this);
-    CNodeRefList nodes;
-    m_fnCopySelection(canvas, nodes);
-    CSize greatest(0, 0);
-    for (POSITION position = nodes.GetHeadPosition(); position;) {
-        const CSize size = ExtentOf(nodes.GetNext(position)->m_fnGetBoundRectWithFrame());
-        greatest = CSize(std::max(greatest.cx, size.cx), std::max(greatest.cy, size.cy));
-    }
-    for (POSITION position = nodes.GetHeadPosition(); position;) {
-        CImgNode* pNode = nodes.GetNext(position);
-        CRect rc = pNode->m_fnGetBoundRectWithFrame();
-        if (bWidth) {
-            rc.right = Saturated(static_cast<long long>(rc.left) + greatest.cx);
-        }
-        if (bHeight) {
-            rc.bottom = Saturated(static_cast<long long>(rc.top) + greatest.cy);
-        }
-        m_fnResizeObject(pNode, rc);
-    }
+    int nPoints = CInplaceEditor::m_fnConvertFontPixelToNearestPoint(Truncated(text.m_nFontSize * dScale));
+    pPanel->AdjustSize(&nPoints);
+    return CInplaceEditor::m_fnConvertFontPointToPixel(nPoints);
 }
-
-void CToolCore::m_fnSameWidth() { MatchSizes(true, false); }
-
-void CToolCore::m_fnSameHeight() { MatchSizes(false, true); }
-
-void CToolCore::m_fnSameSize() { MatchSizes(true, true); }

@@ -1,10 +1,11 @@
-// Making a text object: an editor that nobody sees lays the text out, the text engine renders it.
+#include "text/object/text_creation.h"
+
 #include <memory>
 
 #include "host/text_engine.h"
+#include "ops/canvas.h"
 #include "text/editor/inplace_editor.h"
 #include "text/object/text_attributes.h"
-#include "tools/tool_core.h"
 
 namespace {
 
@@ -67,15 +68,15 @@ class COffscreenEditor {
 
 } // namespace
 
-CTextNode* CToolCore::CreateTextNode(const CString& strText, const CString& strFontName, COLORREF crColor,
-                                     int nPixelSize, int nAlignment, int nStyle) {
+CTextNode* text_objects::CreateTextNode(CTool& tool, const CString& strText, const CString& strFontName,
+                                        COLORREF crColor, int nPixelSize, int nAlignment, int nStyle) {
     COffscreenEditor editor({strFontName, nPixelSize, nAlignment, nStyle, crColor});
     CString strLayout = strText;
     textObject object;
     if (!editor.LayOut(strLayout) || !textCreate::Apply(editor.Param(), object)) {
         return nullptr;
     }
-    CCanvas canvas(*this);
+    const CCanvas canvas(tool);
     CTextNode* const pNode = new CToolTextNode(canvas.HasDocument() ? &canvas.Document() : nullptr);
     if (!pNode) {
         return nullptr;
@@ -83,14 +84,4 @@ CTextNode* CToolCore::CreateTextNode(const CString& strText, const CString& strF
     pNode->m_fnAssign(object);
     MoveCornerTo(*pNode, CPoint(0, 0));
     return pNode;
-}
-
-CTextNode* CToolCore::m_fnCreateText(const CString& strText, const TextAttributes& attributes) {
-    return CreateTextNode(strText, attributes.strFontName, attributes.crText, attributes.nPixelSize,
-                          attributes.nAlignment, attributes.nStyle);
-}
-
-CTextNode* CToolCore::m_fnCreateTextLike(const CTextNode& node) {
-    TextAttributes attributes;
-    return ReadAttributes(node, attributes) ? m_fnCreateText(TextOf(node), attributes) : nullptr;
 }

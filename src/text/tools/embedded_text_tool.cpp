@@ -50,7 +50,7 @@ int CEmbeddedTextTool::HitTestSelected(CPoint* pPoint, CImgNode* pNode) {
 
 int CEmbeddedTextTool::OnLButtonDblClk(UINT nFlags, CPoint point) {
     const CLinkScope link(*this);
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (!GetOwner() || !canvas || canvas.Selection().GetCount() > 1) {
         return 0;
     }
@@ -60,16 +60,16 @@ int CEmbeddedTextTool::OnLButtonDblClk(UINT nFlags, CPoint point) {
 
 int CEmbeddedTextTool::OnLButtonDown(UINT nFlags, CPoint point) {
     const CLinkScope link(*this);
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (!GetOwner() || !canvas) {
         return 0;
     }
     if (!IsEditing()) {
-        if (!canvas.Selection().IsEmpty()) {
+        if (canvas.HasSelection()) {
             return 0;
         }
         CBasicObjectTool::OnLButtonDown(nFlags, point);
-        if (!canvas.Selection().IsEmpty()) {
+        if (canvas.HasSelection()) {
             return 0;
         }
     }
@@ -111,12 +111,11 @@ int CEmbeddedTextTool::SetColor(COLORREF crText) {
 void CEmbeddedTextTool::OnInputEnded(CInplaceEditor* pEditor) {
     const CLinkScope link(*this);
     CTextTool::OnInputEnded(pEditor);
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (!GetOwner() || !canvas) {
         return;
     }
-    CRect rc(0, 0, 0, 0);
-    GetSelectionOutlineRect(&rc);
+    const CRect rc = SelectionOutlineRect(*this);
     FlushViewRect(&rc);
     GetOwner()->ShowSelectionMarks(1);
     const CRect rcClient = canvas.ClientRect();

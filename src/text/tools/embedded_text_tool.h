@@ -7,7 +7,7 @@
 /// Works for its owner, and is linked on the bus only while it does. Without an owner it declines all input.
 class CEmbeddedTextTool : public CListenerLinker, public CTextTool {
   public:
-    CToolListener* GetEmbedded() override { return this; }
+    CTool* GetEmbedded() override { return this; }
 
     void OnObjectHook(CImgNode* pNode) override;
     /// Also reads the transparency that the text page shows.

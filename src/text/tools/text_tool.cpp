@@ -1,32 +1,19 @@
 #include "text/tools/text_tool.h"
 
 #include "host/panels.h"
-#include "host/tool_ids.h"
-#include "ops/bus.h"
+#include "ops/hit_test.h"
 #include "ops/host_page.h"
-#include "tools/identity_tables.h"
+#include "ops/selection.h"
+#include "tools/identity.h"
 
 CTextTool::~CTextTool() = default;
 
-int CTextTool::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
-    return OwnKindOrBase<CTextToolBase>(*this, {CategoryId, tool_kind::Text}, category, nKind, pResult,
-                                        pExtra);
-}
-
 int CTextTool::QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) {
-    static constexpr std::array<InterfaceRow<CTextTool>, 1> Interfaces = {
-        {RowOf<ITextEditEntry, CTextTool>()}};
-    if (MatchInterface(Interfaces, this, iid, ppInterface, pExtra)) {
+    if (AnswerInterface<ITextEditEntry>(this, iid, ppInterface, pExtra)) {
         return 1;
     }
     return CTextToolBase::QueryInterface(iid, ppInterface, pExtra);
 }
-
-const GUID& CTextTool::GetToolClassId() { return tool_class::Text; }
-
-const GUID& CTextTool::GetToolGroupId() { return GroupIdOr(tool_group::Text); }
-
-int CTextTool::GetPanelKind() { return panel_kind::Text; }
 
 void CTextTool::OnNodeResized(CImgNode* pNode) {
     if (const CTextNode* pText = AsText(pNode)) {
@@ -64,15 +51,15 @@ int CTextTool::OnLButtonDown(UINT nFlags, CPoint point) {
 }
 
 int CTextTool::OnLButtonDblClk(UINT nFlags, CPoint point) {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (!canvas) {
         return 0;
     }
-    const bool bExcluded = IsOnExcludedNode(point);
-    if (bExcluded && !IsOnSelection(point)) {
+    const bool bExcluded = IsOnExcludedNode(*this, point);
+    if (bExcluded && !IsOnSelection(*this, point)) {
         return CTextToolBase::OnLButtonDblClk(nFlags, point);
     }
-    if (!bExcluded && m_nEndedOnPress == 1 && !IsOnSelection(point)) {
+    if (!bExcluded && m_nEndedOnPress == 1 && !IsOnSelection(*this, point)) {
         m_nEndedOnPress = 0;
         SelectByEndingClick(point);
     }
@@ -105,22 +92,13 @@ int CTextTool::OnLButtonDblClk(UINT nFlags, CPoint point) {
 
 // The press that ended the editing has selected nothing; the double-click it belongs to makes up for it.
 void CTextTool::SelectByEndingClick(CPoint point) {
-    CRefresh refresh;
-    CRect rc(0, 0, 0, 0);
-    GetSelectionOutlineRect(&rc);
-    refresh.Add(rc);
+    const CCanvas canvas(*this);
+    CTouchedArea area(*this);
     ClearSelection();
-    if (CImgNode* pNode = ClickedNode(point)) {
-        CNodeRefList nodes;
-        nodes.AddTail(pNode);
-        AddToSelection(nodes);
+    if (CImgNode* pNode = canvas.HasDocument() ? ClickedNode(*this, point) : nullptr) {
+        Select(canvas, pNode);
     }
-    rc.SetRectEmpty();
-    GetSelectionOutlineRect(&rc);
-    refresh.Add(rc);
-    FlushViewRect(&refresh.Area());
-    ShowSelectionMarks(1);
-    RedrawRect(&refresh.Area());
+    area.After().FlushMarkRepaint(canvas, *this);
 }
 
 int CTextTool::StartNewText(ITextAttributePanel& panel, CPoint point) {
@@ -133,6 +111,6 @@ int CTextTool::StartNewText(ITextAttributePanel& panel, CPoint point) {
 }
 
 bool CTextTool::IsOnFrame(const CImgNode& node, CPoint point) {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     return node.m_pFrameNode && node.m_pFrameNode->PtInMask(canvas.ToDocument(point)) == 1;
 }

@@ -4,7 +4,6 @@
 
 #include <memory>
 
-#include "frames/frame_place.h"
 #include "ops/refresh.h"
 #include "text/editor/inplace_editor.h"
 #include "text/tools/text_tool_base.h"
@@ -14,12 +13,9 @@ class CTextTool : public CTextToolBase, public IInplaceEditorNotify, public ITex
   public:
     ~CTextTool() override;
 
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
     int QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) override;
     void OnNodeResized(CImgNode* pNode) override;
-    const GUID& GetToolClassId() override;
-    const GUID& GetToolGroupId() override;
-    int GetPanelKind() override;
+    const GUID& GetToolClassId() override { return tool_class::Text; }
 
     /// 53. Opens the text object in the editor with the caret at the point (client pixels). 1, or 0 for
     /// another object, for a companion, while an editor is open and when none can be made; then the page
@@ -50,11 +46,13 @@ class CTextTool : public CTextToolBase, public IInplaceEditorNotify, public ITex
     // Attributes. The mask bits say which ones come from the tool.
     enum Attribute : int { FontName = 1, Size = 2, Alignment = 4, Style = 8, Color = 16 };
     void AttributeChanged(Attribute attribute);
+    bool IsAppliedTo(const CCanvas& canvas, Attribute attribute);
     bool SelectionDiffers(Attribute attribute);
     bool Differs(const CTextNode& node, Attribute attribute) const;
     void ApplyToEditor(Attribute attribute);
     int ApplyAttributesToSelection(int nMask);
     bool RebuildWith(CTextNode& node, int nMask);
+    TextAttributes Chosen(const CTextNode& node, int nMask) const;
     void PushAttributes();
     void ShowAttributes();
 
@@ -66,24 +64,23 @@ class CTextTool : public CTextToolBase, public IInplaceEditorNotify, public ITex
     // The editing session.
     int StartEditor(CPoint point, const CString& strText, int nVisible);
     void ShowEditor();
-    CImgNode* PredecessorOf(CCanvas& canvas, CImgNode* pNode);
     POSITION PlaceBehindAnchor(CImgNodeList& objects);
-    void TakeOffPage(CCanvas& canvas, CTextNode& node);
-    void PutBackOnPage(CCanvas& canvas, CTextNode& node);
-    int AbandonEdit(CCanvas& canvas, CTextNode& node, CRefresh& refresh);
-    void PlaceEditor(CCanvas& canvas, CTextNode& node, CPoint ptDoc);
+    void TakeOffPage(const CCanvas& canvas, CTextNode& node);
+    void PutBackOnPage(const CCanvas& canvas, CTextNode& node);
+    int AbandonEdit(const CCanvas& canvas, CTextNode& node, const CRefresh& refresh);
+    void PlaceEditor(const CCanvas& canvas, CTextNode& node, CPoint ptDoc);
     CString TextToStartWith(const CImgNode* pNode, const CString& strText);
 
     // The commit.
-    void CommitText(CCanvas& canvas, const CString& strText);
-    CTextNode* BuildCommitted(const CString& strText);
-    bool TakeLook(CTextNode& node);
-    void KeepUnsaved(CCanvas& canvas, const CString& strText);
+    void CommitText(const CCanvas& canvas, const CString& strText);
+    TextAttributes EditorAttributes();
+    std::unique_ptr<CTextNode> BuildCommitted(const CString& strText);
+    void KeepUnsaved(const CCanvas& canvas, const CString& strText);
     void TakePanelTransparency(CTextNode& node);
-    void CommitNew(CCanvas& canvas, CTextNode& node, const CRect& rcDoc);
-    void CommitEdited(CCanvas& canvas, std::unique_ptr<CTextNode> pNew, int nAlignment);
+    void CommitNew(const CCanvas& canvas, CTextNode& node, const CRect& rcDoc);
+    void CommitEdited(const CCanvas& canvas, CTextNode& built, int nAlignment);
     void GiveDefaultShadow(CTextNode& node);
-    void TakeExcludedNodeOut(CCanvas& canvas);
+    void ShowCommitted(const CCanvas& canvas, CTextNode& node, CRefresh& refresh);
     void CloseEditor();
 
     std::unique_ptr<CInplaceEditor> m_pEditor;

@@ -1,7 +1,10 @@
 // The five attributes that the text page sets, in the editor or on the selected texts.
 #include "host/panels.h"
+#include "ops/current_tool.h"
+#include "ops/nodes.h"
 #include "ops/saturate.h"
 #include "ops/selection_class.h"
+#include "text/object/text_build.h"
 #include "text/tools/text_tool.h"
 
 int CTextTool::SetFontName(const CString& strName) {
@@ -45,25 +48,28 @@ void CTextTool::AttributeChanged(Attribute attribute) {
         ApplyAttributesToSelection(attribute);
     }
     PushAttributes();
-    CCanvas canvas(*this);
-    if (canvas.HasDocument() && !canvas.Selection().IsEmpty()) {
-        NotifyObjectsRedrawn();
-        NotifyObjectsChanged();
+    if (CCanvas(*this).HasSelection()) {
+        NotifyRedrawnThenChanged(*this);
     }
 }
 
 // A colour is set on texts alone: any other selection keeps its colours.
-bool CTextTool::SelectionDiffers(Attribute attribute) {
-    CCanvas canvas(*this);
+bool CTextTool::IsAppliedTo(const CCanvas& canvas, Attribute attribute) {
     if (!canvas.HasDocument()) {
         return false;
     }
     const int nClass = ClassifySelection();
-    if (attribute == Color && nClass != selection_class::OneText && nClass != selection_class::SeveralTexts) {
+    return attribute != Color || nClass == selection_class::OneText ||
+           nClass == selection_class::SeveralTexts;
+}
+
+bool CTextTool::SelectionDiffers(Attribute attribute) {
+    const CCanvas canvas(*this);
+    if (!IsAppliedTo(canvas, attribute)) {
         return false;
     }
-    for (POSITION position = canvas.Selection().GetHeadPosition(); position;) {
-        const CTextNode* const pText = AsText(canvas.Selection().GetNext(position));
+    for (CImgNode* pNode : Each(canvas.Selection())) {
+        const CTextNode* const pText = AsText(pNode);
         if (pText && Differs(*pText, attribute)) {
             return true;
         }
@@ -84,7 +90,7 @@ bool CTextTool::Differs(const CTextNode& node, Attribute attribute) const {
 }
 
 void CTextTool::ApplyToEditor(Attribute attribute) {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     TextAttributes own = Attributes();
     switch (attribute) {
     case FontName: m_pEditor->m_fnSetFont(own.strFontName); break;
@@ -98,49 +104,27 @@ void CTextTool::ApplyToEditor(Attribute attribute) {
 }
 
 int CTextTool::ApplyAttributesToSelection(int nMask) {
-    CCanvas canvas(*this);
-    if (!canvas || canvas.Selection().IsEmpty()) {
+    const CCanvas canvas(*this);
+    if (!canvas || !canvas.HasSelection()) {
         return 1;
     }
-    CRefresh refresh;
-    CRect rc(0, 0, 0, 0);
-    GetSelectionOutlineRect(&rc);
-    refresh.Add(rc);
+    CTouchedArea area(*this);
     CNodeRefList nodes;
-    m_fnCopySelection(canvas, nodes);
-    for (POSITION position = nodes.GetHeadPosition(); position;) {
-        CTextNode* const pText = AsText(nodes.GetNext(position));
+    CopyList(canvas.Selection(), nodes);
+    for (CImgNode* pNode : Each(nodes)) {
+        CTextNode* const pText = AsText(pNode);
         if (pText && !TextOf(*pText).IsEmpty() && !RebuildWith(*pText, nMask)) {
             return 0;
         }
     }
-    rc.SetRectEmpty();
-    GetSelectionOutlineRect(&rc);
-    refresh.Add(rc);
-    refresh.FlushMarkRepaint(canvas.View(), *this);
+    area.After().FlushMarkRepaint(canvas, *this);
     return 1;
 }
 
 bool CTextTool::RebuildWith(CTextNode& node, int nMask) {
-    TextAttributes attributes;
-    ReadAttributes(node, attributes);
-    const TextAttributes own = Attributes();
-    attributes.strFontName = nMask & FontName ? own.strFontName : attributes.strFontName;
-    attributes.nPixelSize = nMask & Size ? own.nPixelSize : attributes.nPixelSize;
-    attributes.nAlignment = nMask & Alignment ? own.nAlignment : attributes.nAlignment;
-    attributes.nStyle = nMask & Style ? own.nStyle : attributes.nStyle;
-    attributes.crText = nMask & Color ? own.crText : attributes.crText;
-
-    std::unique_ptr<CTextNode> pNew(m_fnCreateText(TextOf(node), attributes));
+    std::unique_ptr<CTextNode> pNew = BuildTextLike(*this, node, TextOf(node), Chosen(node, nMask),
+                                                    {Effect::InTextColor, Width::Kept, Display::Required});
     if (!pNew) {
-        return false;
-    }
-    const CSize before = SizeOf(*pNew);
-    pNew->m_fnCopyTextEffectFrom(&node);
-    pNew->m_fnChangeTextEffectColor(&attributes.crText);
-    pNew->m_fnRegenerateTextEffect();
-    KeepWidth(*pNew, before);
-    if (!CopyDisplayValues(*pNew, node)) {
         return false;
     }
     if (ReplaceTextNode(&node, pNew.get(), 0)) {
@@ -149,14 +133,27 @@ bool CTextTool::RebuildWith(CTextNode& node, int nMask) {
     return true;
 }
 
+// The object's attributes but for those in the mask, which are the tool's.
+TextAttributes CTextTool::Chosen(const CTextNode& node, int nMask) const {
+    TextAttributes attributes;
+    ReadAttributes(node, attributes);
+    const TextAttributes own = Attributes();
+    attributes.strFontName = nMask & FontName ? own.strFontName : attributes.strFontName;
+    attributes.nPixelSize = nMask & Size ? own.nPixelSize : attributes.nPixelSize;
+    attributes.nAlignment = nMask & Alignment ? own.nAlignment : attributes.nAlignment;
+    attributes.nStyle = nMask & Style ? own.nStyle : attributes.nStyle;
+    attributes.crText = nMask & Color ? own.crText : attributes.crText;
+    return attributes;
+}
+
 // To the panel, when this tool is the current one.
 void CTextTool::PushAttributes() {
-    CCanvas canvas(*this);
-    if (!IsCurrentTool() || !canvas.HasDocument()) {
+    const CCanvas canvas(*this);
+    if (!IsCurrentTool(*this) || !canvas.HasDocument()) {
         return;
     }
-    if (!canvas.Selection().IsEmpty()) {
-        const CTextNode* const pText = AsText(OnlySelectedNode(canvas));
+    if (canvas.HasSelection()) {
+        const CTextNode* const pText = AsText(canvas.OnlySelected());
         CString strFontName;
         if (!pText || !ReadFontName(*pText, strFontName)) {
             return;

@@ -1,29 +1,19 @@
 #include "text/tools/text_tool_base.h"
 
 #include "host/panels.h"
-#include "host/tool_ids.h"
 #include "ops/bus.h"
 #include "text/editor/inplace_editor.h"
 #include "text/object/default_font.h"
-#include "tools/identity_tables.h"
+#include "tools/identity.h"
 
 CTextToolBase::CTextToolBase() : m_strFontName(DefaultFontName()) {}
 
-int CTextToolBase::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
-    return OwnKindOrBase<CBasicObjectTool>(*this, {CategoryId, tool_kind::TextBase}, category, nKind, pResult,
-                                           pExtra);
-}
-
 int CTextToolBase::QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) {
-    static constexpr std::array<InterfaceRow<CTextToolBase>, 1> Interfaces = {
-        {RowOf<ITextAttributeTarget, CTextToolBase>()}};
-    if (MatchInterface(Interfaces, this, iid, ppInterface, pExtra)) {
+    if (AnswerInterface<ITextAttributeTarget>(this, iid, ppInterface, pExtra)) {
         return 1;
     }
     return CBasicObjectTool::QueryInterface(iid, ppInterface, pExtra);
 }
-
-const GUID& CTextToolBase::GetToolClassId() { return tool_class::TextBase; }
 
 ITextAttributePanel* CTextToolBase::TextPanel() {
     return bus::FindService<ITextAttributePanel>(*this, kind::TextPage);
@@ -32,10 +22,8 @@ ITextAttributePanel* CTextToolBase::TextPanel() {
 // A size that the user typed stays as typed while it comes to the object's pixels.
 void CTextToolBase::OnObjectHook(CImgNode* pNode) {
     CTextNode* const pText = AsText(pNode);
-    CCanvas canvas(*this);
     CString strFontName;
-    if (!pText || !canvas.HasDocument() || OnlySelectedNode(canvas) != pNode ||
-        !ReadFontName(*pText, strFontName)) {
+    if (!pText || CCanvas(*this).OnlySelected() != pNode || !ReadFontName(*pText, strFontName)) {
         return;
     }
     int nPoints = CInplaceEditor::m_fnConvertFontPixelToNearestPoint(pText->m_nFontSize);

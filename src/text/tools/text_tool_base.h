@@ -11,13 +11,12 @@ class CTextToolBase : public CBasicObjectTool, public ITextAttributeTarget {
   public:
     CTextToolBase();
 
-    int IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) override;
     int QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) override;
     /// Takes the attributes over from the only selected object when it is this text.
     void OnObjectHook(CImgNode* pNode) override;
     /// Reads the text page's attributes into the tool. 0 when the page lacks them.
     int ResetHost() override;
-    const GUID& GetToolClassId() override;
+    const GUID& GetToolClassId() override { return tool_class::TextBase; }
 
     int SetFontName(const CString& strName) override;
     int SetFontSize(int nPoints) override;

@@ -3,6 +3,11 @@
 
 #include "host/panels.h"
 #include "ops/bus.h"
+#include "ops/nodes.h"
+#include "ops/selection.h"
+#include "shadows/shadow_build.h"
+#include "text/object/text_build.h"
+#include "text/object/text_place.h"
 #include "text/tools/text_tool.h"
 
 namespace {
@@ -17,14 +22,6 @@ CPoint KeptCorner(const CTextNode& old, const CTextNode& node, int nAlignment) {
     }
 }
 
-// The shadow settings as a shadow is built from them.
-CShadowParam TruncatedParam(CShadowParam param) {
-    param.dOffsetX = static_cast<int>(param.dOffsetX);
-    param.dOffsetY = static_cast<int>(param.dOffsetY);
-    param.dSoftness = static_cast<int>(param.dSoftness);
-    return param;
-}
-
 } // namespace
 
 // The editor is destroyed in here, in the middle of its own notification.
@@ -35,15 +32,14 @@ void CTextTool::OnInputEnded(CInplaceEditor* pEditor) {
     CWaitCursor wait;
     CString strText;
     m_pEditor->m_fnGetText(strText);
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (canvas && !strText.IsEmpty()) {
         CommitText(canvas, strText);
     }
     CloseEditor();
     m_pEdited = nullptr;
     m_pZAnchor = nullptr;
-    NotifyObjectsRedrawn();
-    NotifyObjectsChanged();
+    NotifyRedrawnThenChanged(*this);
 }
 
 void CTextTool::CloseEditor() {
@@ -53,26 +49,26 @@ void CTextTool::CloseEditor() {
     }
 }
 
-void CTextTool::CommitText(CCanvas& canvas, const CString& strText) {
+void CTextTool::CommitText(const CCanvas& canvas, const CString& strText) {
     CRect rcText;
     m_pEditor->m_fnGetTextBoundRect(rcText);
     const CRect rcDoc = canvas.ToDocument(rcText);
     const int nAlignment = KnownAlignment(m_pEditor->m_fnGetAlignType());
-    std::unique_ptr<CTextNode> pNew(BuildCommitted(strText));
-    if (!pNew || !TakeLook(*pNew)) {
+    std::unique_ptr<CTextNode> pNew = BuildCommitted(strText);
+    if (!pNew) {
         KeepUnsaved(canvas, strText);
         return;
     }
     CloseEditor();
     if (m_pEdited) {
-        CommitEdited(canvas, std::move(pNew), nAlignment);
+        CommitEdited(canvas, *pNew, nAlignment);
     } else {
         CommitNew(canvas, *pNew.release(), rcDoc);
     }
 }
 
 // At the tool's own size: the editor's is that of the view's zoom.
-CTextNode* CTextTool::BuildCommitted(const CString& strText) {
+TextAttributes CTextTool::EditorAttributes() {
     TextAttributes attributes;
     m_pEditor->m_fnGetFontName(attributes.strFontName);
     attributes.nPixelSize = CInplaceEditor::m_fnConvertFontPointToPixel(m_nPoints);
@@ -81,29 +77,32 @@ CTextNode* CTextTool::BuildCommitted(const CString& strText) {
                         (m_pEditor->m_fnIsItalic() ? text_style::Italic : 0) |
                         (m_pEditor->m_fnIsUnderLine() ? text_style::Underline : 0);
     attributes.crText = m_pEditor->m_fnGetTextColor();
-    return m_fnCreateText(strText, attributes);
+    return attributes;
 }
 
-// That of the edited object, or the panel's for new text. False when the object's display values are refused,
-// which would be lost with the old object.
-bool CTextTool::TakeLook(CTextNode& node) {
-    if (!m_pEdited) {
-        TakePanelTransparency(node);
-        return true;
+// New text takes the panel's transparency, edited text the look of its object: without the object's display
+// values nothing is built, because they would be lost with it.
+std::unique_ptr<CTextNode> CTextTool::BuildCommitted(const CString& strText) {
+    if (m_pEdited) {
+        return BuildTextLike(*this, *m_pEdited, strText, EditorAttributes(),
+                             {Effect::Same, Width::Kept, Display::Required});
     }
-    CopyEffect(node, *m_pEdited);
-    return CopyDisplayValues(node, *m_pEdited);
+    std::unique_ptr<CTextNode> pNew = BuildText(*this, strText, EditorAttributes());
+    if (pNew) {
+        TakePanelTransparency(*pNew);
+    }
+    return pNew;
 }
 
 // The text stays with the tool, and an edited object goes back as it was.
-void CTextTool::KeepUnsaved(CCanvas& canvas, const CString& strText) {
+void CTextTool::KeepUnsaved(const CCanvas& canvas, const CString& strText) {
     m_strUnsaved = strText;
     m_nUnsavedOf = m_pEdited ? m_pEdited->m_nId : 0;
     if (m_pEdited) {
         PutBackOnPage(canvas, *m_pEdited);
         CRefresh refresh;
-        AddMarkArea(m_pEdited, refresh);
-        refresh.FlushMarkRepaint(canvas.View(), *this);
+        refresh.Add(MarkArea(*this, m_pEdited));
+        refresh.FlushMarkRepaint(canvas, *this);
     }
 }
 
@@ -119,17 +118,13 @@ void CTextTool::TakePanelTransparency(CTextNode& node) {
     }
 }
 
-void CTextTool::CommitNew(CCanvas& canvas, CTextNode& node, const CRect& rcDoc) {
+void CTextTool::CommitNew(const CCanvas& canvas, CTextNode& node, const CRect& rcDoc) {
     MoveCornerTo(node, CPoint(rcDoc.Width() / 2 - node.m_tx.nWidth / 2 + rcDoc.left,
                               rcDoc.Height() / 2 - node.m_tx.nHeight / 2 + rcDoc.top));
     canvas.Objects().AddHead(&node);
     GiveDefaultShadow(node);
-    KeepNodeInView(&node);
-    TakeExcludedNodeOut(canvas);
-    SelectOnlyNode(&node);
     CRefresh refresh;
-    AddMarkArea(&node, refresh);
-    refresh.FlushMarkRepaint(canvas.View(), *this);
+    ShowCommitted(canvas, node, refresh);
 }
 
 void CTextTool::GiveDefaultShadow(CTextNode& node) {
@@ -144,37 +139,25 @@ void CTextTool::GiveDefaultShadow(CTextNode& node) {
     std::int32_t nTransparency = 0;
     COLORREF crColor = 0;
     pDefaults->GetShadow(&nX, &nY, &crColor, &nSoftness, &nTransparency, 0);
-    m_fnCreateShadow(&node, nX, nY, &crColor, nSoftness, nTransparency);
+    CreateShadow(*this, &node, nX, nY, &crColor, nSoftness, nTransparency);
 }
 
-void CTextTool::TakeExcludedNodeOut(CCanvas& canvas) {
-    CImgNode* const pExcluded = GetExcludedNode();
-    if (POSITION position = pExcluded ? canvas.Objects().Find(pExcluded) : nullptr) {
-        canvas.Objects().RemoveAt(position);
-    }
-}
-
-void CTextTool::CommitEdited(CCanvas& canvas, std::unique_ptr<CTextNode> pNew, int nAlignment) {
+void CTextTool::CommitEdited(const CCanvas& canvas, CTextNode& built, int nAlignment) {
     CTextNode& node = *m_pEdited;
     CRefresh refresh;
-    AddMarkArea(&node, refresh);
-    MoveCornerTo(*pNew, KeptCorner(node, *pNew, nAlignment));
-    const FrameLink frame = FrameLinkOf(node);
-    CImgNode* const pShadow = node.m_pShadowNode;
-    const CShadowParam shadow = TruncatedParam(node.m_shadow);
-    const int nOldHeight = node.m_tx.nHeight;
-    node.m_fnMoveMemberDataFrom(pNew.get());
-    pNew.reset();
-    node.m_shadow = shadow;
-    node.m_pShadowNode = pShadow;
-    RestoreFrameLink(node, frame);
-
+    refresh.Add(MarkArea(*this, &node));
+    MoveCornerTo(built, KeptCorner(node, built, nAlignment));
+    TakePlace(*this, node, built, {FrameRule::Scaled, ShadowRule::KeptTruncated, DisplayRule::FromRebuilt});
     PutBackOnPage(canvas, node);
-    ScaleFrame(node, nOldHeight, node.m_tx.nHeight);
-    m_fnRegenerateShadow(&node);
+    RegenerateShadow(*this, &node);
+    ShowCommitted(canvas, node, refresh);
+}
+
+// The committed object is the only selection, in sight, and the excluded node has left the page.
+void CTextTool::ShowCommitted(const CCanvas& canvas, CTextNode& node, CRefresh& refresh) {
     KeepNodeInView(&node);
-    TakeExcludedNodeOut(canvas);
-    SelectOnlyNode(&node);
-    AddMarkArea(&node, refresh);
-    refresh.FlushMarkRepaint(canvas.View(), *this);
+    TakeOut(canvas.Objects(), GetExcludedNode());
+    ::SelectOnly(*this, &node);
+    refresh.Add(MarkArea(*this, &node));
+    refresh.FlushMarkRepaint(canvas, *this);
 }

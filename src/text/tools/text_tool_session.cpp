@@ -2,11 +2,14 @@
 #include <algorithm>
 #include <utility>
 
+#include "ops/groups.h"
+#include "ops/nodes.h"
 #include "ops/saturate.h"
+#include "ops/selection.h"
 #include "text/tools/text_tool.h"
 
 int CTextTool::StartEditor(CPoint point, const CString& strText, int nVisible) {
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (m_pEditor || !canvas) {
         return 0;
     }
@@ -48,19 +51,17 @@ int CTextTool::EditTextNode(CImgNode* pNode, const CPoint* pPoint) {
 
 int CTextTool::EditTextNode(CImgNode* pNode, int nX, int nY) {
     CTextNode* const pText = AsText(pNode);
-    CCanvas canvas(*this);
+    const CCanvas canvas(*this);
     if (!pText || pText->m_pOwner || !canvas || m_pEditor) {
         return 0;
     }
     CRefresh refresh;
-    CRect rc(0, 0, 0, 0);
-    GetSelectionOutlineRect(&rc);
-    refresh.Add(rc);
-    AddMarkArea(pText, refresh);
+    refresh.Add(SelectionOutlineRect(*this));
+    refresh.Add(MarkArea(*this, pText));
     m_pEdited = pText;
-    m_pZAnchor = PredecessorOf(canvas, pText);
+    m_pZAnchor = ObjectInFrontOf(canvas.Objects(), *pText);
     TakeOffPage(canvas, *pText);
-    refresh.FlushRepaint(canvas.View());
+    refresh.FlushRepaint(canvas);
 
     CRect rcBound;
     pText->GetBoundRect(&rcBound);
@@ -76,7 +77,7 @@ int CTextTool::EditTextNode(CImgNode* pNode, int nX, int nY) {
 }
 
 // Over the object, with the caret where the point lies in it.
-void CTextTool::PlaceEditor(CCanvas& canvas, CTextNode& node, CPoint ptDoc) {
+void CTextTool::PlaceEditor(const CCanvas& canvas, CTextNode& node, CPoint ptDoc) {
     CRect rcBound;
     node.GetBoundRect(&rcBound);
     CPoint ptCenter = canvas.ToClient(rcBound).CenterPoint();
@@ -91,31 +92,9 @@ void CTextTool::PlaceEditor(CCanvas& canvas, CTextNode& node, CPoint ptDoc) {
     m_pEditor->m_fnMoveCursorTo(ptCaret);
 }
 
-// The nearest object in front; companions do not count.
-CImgNode* CTextTool::PredecessorOf(CCanvas& canvas, CImgNode* pNode) {
-    POSITION position = canvas.Objects().Find(pNode);
-    if (position) {
-        canvas.Objects().GetPrev(position);
-    }
-    while (position) {
-        CImgNode* const pBefore = canvas.Objects().GetPrev(position);
-        if (!pBefore->m_pOwner) {
-            return pBefore;
-        }
-    }
-    return nullptr;
-}
-
-void CTextTool::TakeOffPage(CCanvas& canvas, CTextNode& node) {
-    for (CImgNode* pNode : {static_cast<CImgNode*>(&node), node.m_pFrameNode, node.m_pShadowNode}) {
-        POSITION position = pNode ? canvas.Objects().Find(pNode) : nullptr;
-        if (position) {
-            canvas.Objects().RemoveAt(position);
-        }
-    }
-    if (POSITION position = canvas.Selection().Find(&node)) {
-        canvas.Selection().RemoveAt(position);
-    }
+void CTextTool::TakeOffPage(const CCanvas& canvas, CTextNode& node) {
+    TakeGroupOut(canvas.Objects(), node);
+    Deselect(canvas, &node);
 }
 
 // The anchor, or its shadow where it has one; null when the anchor is no more. It is looked for without being
@@ -133,7 +112,7 @@ POSITION CTextTool::PlaceBehindAnchor(CImgNodeList& objects) {
 }
 
 // Frame, object, shadow.
-void CTextTool::PutBackOnPage(CCanvas& canvas, CTextNode& node) {
+void CTextTool::PutBackOnPage(const CCanvas& canvas, CTextNode& node) {
     CImgNodeList& objects = canvas.Objects();
     POSITION before = PlaceBehindAnchor(objects);
     POSITION position = before ? objects.InsertAfter(before, &node) : objects.AddHead(&node);
@@ -146,11 +125,11 @@ void CTextTool::PutBackOnPage(CCanvas& canvas, CTextNode& node) {
 }
 
 // Without an editor the object goes back where it was, selected as it was found.
-int CTextTool::AbandonEdit(CCanvas& canvas, CTextNode& node, CRefresh& refresh) {
+int CTextTool::AbandonEdit(const CCanvas& canvas, CTextNode& node, const CRefresh& refresh) {
     PutBackOnPage(canvas, node);
     m_pEdited = nullptr;
     m_pZAnchor = nullptr;
     canvas.Selection().AddTail(&node);
-    refresh.FlushMarkRepaint(canvas.View(), *this);
+    refresh.FlushMarkRepaint(canvas, *this);
     return 0;
 }
