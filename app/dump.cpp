@@ -32,7 +32,7 @@ Json SelectionJson(CStage& stage) {
 
 Json ClassJson(CListenerObject* pTool) {
     const ToolRow* pRow = FindToolRow(pTool);
-    return pRow ? Json(pRow->pszName) : Json(nullptr);
+    return pRow ? Json(pRow->identity.pszClass) : Json(nullptr);
 }
 
 Json EventJson(const CUndoEvent& event) {
@@ -99,7 +99,8 @@ Json InputJson(CStage& stage) {
 }
 
 Json KindJson(const ToolRow& row) {
-    return row.bEditCategory ? Json("edit:" + std::to_string(row.nKind)) : Json(row.nKind);
+    return row.identity.category == EditCategoryId ? Json("edit:" + std::to_string(row.identity.nKind))
+                                                   : Json(row.identity.nKind);
 }
 
 Json ToolJson(CStage& stage) {

@@ -130,7 +130,7 @@ void Tools(CRunner& run, CArguments& args) {
     args.End();
     for (CListenerObject* pTool : run.Stage().Desk().Tools()) {
         const ToolRow* pRow = FindToolRow(pTool);
-        run.Print(pRow ? pRow->pszName : "unknown");
+        run.Print(pRow ? pRow->identity.pszClass : "unknown");
     }
 }
 

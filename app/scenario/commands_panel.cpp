@@ -47,7 +47,7 @@ void Property(CRunner& run, CArguments& args) {
     const ToolRow* pRow = FindToolRow(ToolClass(args));
     const int nKind = Kinds[args.OneOf("the page", {"7", "12", "6", "none"})];
     args.End();
-    run.Stage().Desk().SetPropertyKind(pRow->classId, nKind);
+    run.Stage().Desk().SetPropertyKind(pRow->identity.classId, nKind);
 }
 
 void SetShadowRange(CPanelValues& values, CArguments& args) {

@@ -214,8 +214,8 @@ int CDesk::PanelKindOf(CListenerObject* pTool) const {
     if (!pRow) {
         return 0;
     }
-    if (pRow->nPanelKind != PanelAsShown) {
-        return pRow->nPanelKind;
+    if (!pRow->bPanelAsShown) {
+        return pRow->identity.nPanelKind;
     }
     return m_nShown ? m_nShown : kind::ComposedPage;
 }

@@ -29,7 +29,7 @@ CListenerObject* CDocumentService::GetPropertyObject(const GUID& toolClass) {
 int CDocumentService::SetActiveListener(CListenerObject* pListener) {
     const ToolRow* pRow = FindToolRow(pListener);
     trace::BusCall(On, IActiveListenerService::Id, 1,
-                   {pRow ? trace::Value(std::string(pRow->pszName))
+                   {pRow ? trace::Value(std::string(pRow->identity.pszClass))
                          : trace::Value(trace::Pointer{pListener != nullptr})});
     m_desk.SetActiveListener(pListener);
     return 1;

@@ -4,21 +4,17 @@
 #include <array>
 #include <string>
 
-#include <windows.h>
+#include "host/tool_ids.h"
 
 class CListenerObject;
 
+/// A tool class with what this host adds to it.
 struct ToolRow {
-    const char* pszName;
-    GUID classId;
-    bool bEditCategory; ///< the kind below is given under the edit category
-    int nKind;
-    int nPanelKind; ///< the page kind the tool answers; 0 for none, PanelAsShown for the page that is showing
-    int nPropertyKind; ///< the page that is the class's property object; 0 for none
+    ToolIdentity identity;
+    bool bPanelAsShown; ///< the tool takes whichever page is showing, not that of its class
+    int nPropertyKind;  ///< the page that is the class's property object; 0 for none
 };
 
-/// The tool takes whichever page is showing.
-inline constexpr int PanelAsShown = -1;
 inline constexpr std::size_t ToolCount = 11;
 
 /// The eleven tools in the order in which the module makes them.

@@ -70,7 +70,7 @@ std::string EventText(const CUndoEvent* pEvent) {
         return "none";
     }
     const ToolRow* pRow = FindToolRow(record.pTool);
-    return std::string(pRow ? pRow->pszName : "nobody") + (record.bUndone ? " undone" : " done");
+    return std::string(pRow ? pRow->identity.pszClass : "nobody") + (record.bUndone ? " undone" : " done");
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 #include "ops/saturate.h"
 #include "ops/shared_value.h"
 #include "text/editor/inplace_editor.h"
-#include "text/object/text_style.h"
+#include "text/object/text_attributes.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "text/editor/inplace_editor.h"
 
-#include "text/object/default_font.h"
+#include "text/editor/default_font.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "text/editor/line_store.h"
 #include "text/editor/text_layout.h"
 #include "text/editor/text_position.h"
-#include "text/object/text_style.h"
+#include "text/editor/text_style.h"
 
 class CInplaceEditor;
 

@@ -5,7 +5,7 @@
 #include <new>
 
 #include "ops/saturate.h"
-#include "text/object/text_style.h"
+#include "text/editor/text_style.h"
 
 // The modes in which lines are measured, by alignment.
 static UINT MeasuringAlign(int nAlign) {

@@ -4,7 +4,7 @@
 #include <afxwin.h>
 
 #include "host/text_node.h"
-#include "text/object/text_style.h"
+#include "text/editor/text_style.h"
 
 /// Size in pixels at full view scale, alignment an index, style the bits of text_style.
 struct TextAttributes {
@@ -14,6 +14,20 @@ struct TextAttributes {
     int nStyle = 0;
     COLORREF crText = 0;
 };
+
+/// Any code that is neither right nor centre counts as left.
+inline int AlignmentIndexOf(const CTextNode& node) {
+    switch (node.m_nAlignment) {
+    case text_align_code::Right: return text_align::Right;
+    case text_align_code::Center: return text_align::Center;
+    default: return text_align::Left;
+    }
+}
+
+inline int StyleBitsOf(const CTextNode& node) {
+    return (node.m_nBold == 1 ? text_style::Bold : 0) | (node.m_nItalic == 1 ? text_style::Italic : 0) |
+           (node.m_nUnderline == 1 ? text_style::Underline : 0);
+}
 
 /// The node as a text object; null when it is none.
 CTextNode* AsText(CImgNode* pNode);

@@ -2,8 +2,8 @@
 
 #include "host/panels.h"
 #include "ops/bus.h"
+#include "text/editor/default_font.h"
 #include "text/editor/inplace_editor.h"
-#include "text/object/default_font.h"
 #include "tools/identity.h"
 
 CTextToolBase::CTextToolBase() : m_strFontName(DefaultFontName()) {}

@@ -1,4 +1,4 @@
-// Style bits and alignment indices of text attributes, and the way to and from a text object's own fields.
+// Style bits and alignment indices of text attributes.
 #pragma once
 
 #include "host/text_node.h"
@@ -27,18 +27,4 @@ constexpr int AlignmentCodeOf(int nIndex) {
     case text_align::Right: return text_align_code::Right;
     default: return text_align_code::Left;
     }
-}
-
-/// Any code that is neither right nor centre counts as left.
-inline int AlignmentIndexOf(const CTextNode& node) {
-    switch (node.m_nAlignment) {
-    case text_align_code::Right: return text_align::Right;
-    case text_align_code::Center: return text_align::Center;
-    default: return text_align::Left;
-    }
-}
-
-inline int StyleBitsOf(const CTextNode& node) {
-    return (node.m_nBold == 1 ? text_style::Bold : 0) | (node.m_nItalic == 1 ? text_style::Italic : 0) |
-           (node.m_nUnderline == 1 ? text_style::Underline : 0);
 }

@@ -1,4 +1,4 @@
-#include "text/object/default_font.h"
+#include "text/editor/default_font.h"
 
 #include "host/services.h"
 
