@@ -116,7 +116,9 @@ void CInplaceEditor::BreakLine() {
     Refresh();
 }
 
+// A hovering drag's restored caret is one of the text that goes.
 void CInplaceEditor::RestoreStartingText() {
+    m_fnOnDragLeave();
     CString strText = m_strStarting;
     m_fnSetText(strText);
     m_fnEndInput();

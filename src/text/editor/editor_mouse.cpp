@@ -53,7 +53,9 @@ void CInplaceEditor::OnKillFocus(CWnd* pNewWnd) {
     }
 }
 
+// A drag over the own selection has the caret disabled, which would keep the end from being told.
 void CInplaceEditor::m_fnEndInput() {
+    m_fnOnDragLeave();
     if (m_hWnd && ::GetCapture() == m_hWnd) {
         ReleaseCapture();
     }
