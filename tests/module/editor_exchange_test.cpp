@@ -166,6 +166,14 @@ TEST_F(Exchange, TheSelectionItselfAndOtherFormatsTakeNoDrop) {
     EXPECT_EQ(m_stage.EditorLines(), Lines{"abcd"});
 }
 
+TEST_F(Exchange, TheEffectNeedNotBeAskedFor) {
+    Open("ab");
+    CString strData("x");
+    Editor().m_fnOnDataArrive(0, drop_phase::Drop, DropFormatText, strData, 0, CPoint(1, 1), 0, nullptr);
+    Editor().m_fnOnDataArrive_CF_TEXT(0, strData, 0, nullptr);
+    EXPECT_EQ(m_stage.EditorLines(), Lines{"xab"});
+}
+
 TEST_F(Exchange, HoveringShowsTheDropPlaceWithoutBlinkingAndLeavingRestoresTheCaret) {
     Open("abcd\nef");
     GoTo(1, 1);

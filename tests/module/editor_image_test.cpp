@@ -116,6 +116,15 @@ TEST_F(ImageExport, MaskIsTheGlyphsAndTheImageAFlatField) {
     }
 }
 
+TEST_F(ImageExport, WithoutOneOfTheOutputsThereIsNone) {
+    Open("ab");
+    const auto get = m_stage.EditorOperations()->m_fnGetBuffer;
+    Export got;
+    EXPECT_EQ((m_stage.Editor()->*get)(nullptr, &got.mask), 0);
+    EXPECT_EQ((m_stage.Editor()->*get)(&got.image, nullptr), 0);
+    EXPECT_TRUE(got.image == 0 && got.mask == 0);
+}
+
 TEST_F(ImageExport, FailureOfAnyPartLeavesNothingBehind) {
     struct Row {
         const char* fault;

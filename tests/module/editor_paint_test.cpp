@@ -144,6 +144,23 @@ TEST_F(EditorPaint, ColorAndFontShowAtOnce) {
     EXPECT_EQ(Faults(CTextPicture(look, Anchor), stage.Now()), CRect(0, 0, 0, 0));
 }
 
+TEST_F(EditorPaint, ReplacedWithoutRedrawNothingStaysInverted) {
+    stage.Open({.lines = {"     ", "   "}, .px = 24}, Anchor);
+    stage.SelectText(0, 1, 1, 0);
+    CString strBlank(" ");
+    (stage.Editor()->*stage.Calls().m_fnReplaceSelectRange)(strBlank, 0);
+    const Pixels shown = stage.Now();
+    EXPECT_EQ(DifferenceOf(shown, stage.Afresh()), CRect(0, 0, 0, 0));
+}
+
+TEST_F(EditorPaint, ColorOfAHiddenEditorPaintsNothing) {
+    stage.NewEditor(Anchor, "Hanohd", Show::Later);
+    CClientDC dc(stage.Desk().View());
+    dc.SetPixel(Anchor.x, Anchor.y, RGB(1, 2, 3));
+    (stage.Editor()->*stage.Calls().m_fnSetFontColor)(RGB(255, 0, 0));
+    EXPECT_EQ(dc.GetPixel(Anchor.x, Anchor.y), RGB(1, 2, 3));
+}
+
 TEST_F(EditorPaint, NothingIsLeftOfAnEditorThatGoes) {
     stage.Open(ThreeLines, Anchor);
     stage.SelectText(0, 0, 2, 1);

@@ -121,7 +121,9 @@ int CInplaceEditor::m_fnOnPrepareDragData_CF_TEXT(CPoint&, CString& strData) {
 
 int CInplaceEditor::m_fnOnDataArrive(int, int nPhase, UINT nFormat, CString&, DWORD dwKeyState, CPoint point,
                                      DWORD dwSource, DWORD* pdwEffect) {
-    *pdwEffect = drop_effect::None;
+    DWORD dwUnasked = drop_effect::None;
+    DWORD& dwEffect = pdwEffect ? *pdwEffect : dwUnasked;
+    dwEffect = drop_effect::None;
     if (m_nHovering == 0) {
         EnterHover();
     }
@@ -140,12 +142,12 @@ int CInplaceEditor::m_fnOnDataArrive(int, int nPhase, UINT nFormat, CString&, DW
     }
     if (nPhase == drop_phase::Drop) {
         m_ptDrop = point;
-        *pdwEffect = DropEffect();
+        dwEffect = DropEffect();
         return 1;
     }
     ShowDropPlace(point);
     m_nDropMoves = (dwKeyState & MK_CONTROL) != 0 || dwSource == drop_source::Foreign ? 0 : 1;
-    *pdwEffect = DropEffect();
+    dwEffect = DropEffect();
     return 0;
 }
 
@@ -178,7 +180,9 @@ void CInplaceEditor::ShowDropPlace(const CPoint& point) {
 }
 
 void CInplaceEditor::m_fnOnDataArrive_CF_TEXT(int, CString& strData, DWORD, DWORD* pdwEffect) {
-    *pdwEffect = DropEffect();
+    if (pdwEffect) {
+        *pdwEffect = DropEffect();
+    }
     const bool bShown = HideShownCaret();
     CString strText;
     m_fnConvertClipboardNewLine(strData, strText);

@@ -103,8 +103,15 @@ void FreeBuffer(HBUF32* phBuf) {
 } // namespace
 
 int CInplaceEditor::m_fnGetBuffer(HBUF32* phImage, HBUF32* phMask) {
-    *phImage = 0;
-    *phMask = 0;
+    if (phImage) {
+        *phImage = 0;
+    }
+    if (phMask) {
+        *phMask = 0;
+    }
+    if (!phImage || !phMask) {
+        return 0;
+    }
     const CTextLayout layout = Measure();
     CTextPicture picture(layout.BoundAt(m_ptAnchor).Size(), m_crText);
     if (!picture) {

@@ -79,9 +79,13 @@ LineSpan CInplaceEditor::m_fnCalculateLineIntersection(int nLine, const TextRang
 }
 
 void CInplaceEditor::RepaintChange(const TextRange& before, const TextRange& after) {
-    if (before == after || (before.IsEmpty() && after.IsEmpty())) {
-        return;
+    if (before != after && !(before.IsEmpty() && after.IsEmpty())) {
+        InvalidateChange(before, after);
+        m_pParentWnd->UpdateWindow();
     }
+}
+
+void CInplaceEditor::InvalidateChange(const TextRange& before, const TextRange& after) {
     const TextRange& first = before.IsEmpty() ? after : before;
     const TextRange& second = after.IsEmpty() ? before : after;
     const int nFirst = std::min(first.start.nLine, second.start.nLine);
@@ -97,7 +101,6 @@ void CInplaceEditor::RepaintChange(const TextRange& before, const TextRange& aft
             InvalidateChange(layout, layout.LineRect(rcArea, nLine, strLine), strLine, spanBefore, spanAfter);
         }
     }
-    m_pParentWnd->UpdateWindow();
 }
 
 void CInplaceEditor::m_fnCalculateLineIntersection(int nLine, const LineSpan& before, const LineSpan& after) {
@@ -158,7 +161,8 @@ void CInplaceEditor::RedrawAfterChange(int nRedraw) {
     }
 }
 
-// A caret inside the replaced text goes to the end of the new one, a later one keeps its distance.
+// A caret inside the replaced text goes to the end of the new one, a later one keeps its distance. Where the
+// selection was inverted is known only before the change, and has to be painted even when nothing else is.
 void CInplaceEditor::ReplaceSelected(const CString& strText, int nRedraw) {
     const int nShown = m_nCaretEnabled;
     if (nShown != 0) {
@@ -167,6 +171,10 @@ void CInplaceEditor::ReplaceSelected(const CString& strText, int nRedraw) {
     const int nStart = m_fnGetAbsoluteCharIndex(m_selection.start.nLine, m_selection.start.nIndex);
     const int nEnd = m_fnGetAbsoluteCharIndex(m_selection.end.nLine, m_selection.end.nIndex);
     int nCaret = m_fnGetAbsoluteCharIndex(m_nCurrentLine, m_nCaret);
+    const bool bPaintsSelection = nRedraw != 1 && !IsHidden();
+    if (bPaintsSelection) {
+        InvalidateChange(m_selection, {});
+    }
     SpliceRange(m_selection, strText);
     if (nCaret >= nStart) {
         nCaret = (nCaret < nEnd ? 0 : nCaret - nEnd) + nStart + strText.GetLength();
@@ -175,6 +183,9 @@ void CInplaceEditor::ReplaceSelected(const CString& strText, int nRedraw) {
     m_fnConvertToLineIndex(nCaret, &caret.nLine, &caret.nIndex);
     ForgetSelection();
     RedrawAfterChange(nRedraw);
+    if (bPaintsSelection) {
+        m_pParentWnd->UpdateWindow();
+    }
     GoTo(caret);
     if (nShown != 0) {
         m_fnShowCursor(1);

@@ -174,7 +174,7 @@ void CInplaceEditor::m_fnSetFontStyle(int nBits) {
 // The parent's pixels lie under the editor, so it has to be painted from there.
 void CInplaceEditor::m_fnSetFontColor(COLORREF crText) {
     m_crText = crText;
-    if (m_hWnd) {
+    if (!IsHidden()) {
         Invalidate(TRUE);
         RepaintAllOnParent();
     }

@@ -97,7 +97,7 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     /// the record cannot be made.
     CHandle<QXRICHEDITINFO, CHandleKiller> m_fnGetRichText(double dScale);
     /// A 24-bit buffer of the text colour and an 8-bit mask of the glyphs (255 on text, else 0), both of the
-    /// bound rectangle's size and the caller's to free. 1, or 0 with both outputs 0.
+    /// bound rectangle's size and the caller's to free. 1, or 0 with both outputs 0; null is no output.
     int m_fnGetBuffer(HBUF32* phImage, HBUF32* phMask);
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -218,6 +218,8 @@ class AFX_EXT_CLASS CInplaceEditor : public CWnd, public CDragDropTarget, public
     TextRange ClampedRange(TextRange range) const;
     void ForgetSelection();
     void RepaintChange(const TextRange& before, const TextRange& after);
+    /// Invalidates on the parent where the two selections differ.
+    void InvalidateChange(const TextRange& before, const TextRange& after);
     void InvalidateChange(const CTextLayout& layout, const CRect& rcLine, const CString& strLine,
                           const LineSpan& before, const LineSpan& after);
     void InvalidateSpan(const CTextLayout& layout, const CRect& rcLine, const CString& strLine,
