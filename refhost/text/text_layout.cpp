@@ -10,6 +10,9 @@ namespace {
 
 /// Above and below the lines, in pixels.
 constexpr int RowMargin = 1;
+/// A buffer's longest side, and as many pixels as a bitmap may have.
+constexpr int LargestSide = 32767;
+constexpr long long MostPixels = 1LL << 27;
 
 HFONT MakeFont(const RichTextRun& run) {
     return ::CreateFontA(-run.nHeight, 0, 0, 0, run.bBold ? FW_BOLD : FW_NORMAL, run.bItalic, run.bUnderline,
@@ -39,8 +42,7 @@ bool CTextLayout::Make(const std::vector<RichTextRun>& runs, int nAlignCode) {
     if (context.Get() == nullptr || !MakeFonts(context.Get(), runs))
         return false;
     Break(runs);
-    Measure(context.Get());
-    return true;
+    return Measure(context.Get());
 }
 
 bool CTextLayout::MakeFonts(HDC hDC, const std::vector<RichTextRun>& runs) {
@@ -85,15 +87,25 @@ void CTextLayout::AddPiece(std::size_t nFont, const std::string& text) {
         m_lines.back().pieces.push_back({nFont, 0, text});
 }
 
-void CTextLayout::Measure(HDC hDC) {
-    for (Line& line : m_lines) {
-        MeasureLine(hDC, line);
-        m_nWidth = std::max(m_nWidth, line.nWidth);
-        m_nHeight += line.nAscent + line.nDescent;
-    }
+bool CTextLayout::IsPicture() const {
+    const SIZE size = PictureSize();
+    return size.cx <= LargestSide && size.cy <= LargestSide && 1LL * size.cx * size.cy <= MostPixels;
 }
 
-void CTextLayout::MeasureLine(HDC hDC, Line& line) {
+// Asked after each line and piece, long before a sum overflows.
+bool CTextLayout::Measure(HDC hDC) {
+    for (Line& line : m_lines) {
+        if (!MeasureLine(hDC, line))
+            return false;
+        m_nWidth = std::max(m_nWidth, line.nWidth);
+        m_nHeight += line.nAscent + line.nDescent;
+        if (!IsPicture())
+            return false;
+    }
+    return true;
+}
+
+bool CTextLayout::MeasureLine(HDC hDC, Line& line) {
     if (line.pieces.empty()) {
         line.nAscent = m_fonts[line.nFont].nAscent;
         line.nDescent = m_fonts[line.nFont].nDescent;
@@ -103,9 +115,12 @@ void CTextLayout::MeasureLine(HDC hDC, Line& line) {
         const CSelectScope selected(hDC, font.hFont);
         piece.nWidth = WidthOf(hDC, piece.text);
         line.nWidth += piece.nWidth;
+        if (line.nWidth > LargestSide)
+            return false;
         line.nAscent = std::max(line.nAscent, font.nAscent);
         line.nDescent = std::max(line.nDescent, font.nDescent);
     }
+    return true;
 }
 
 int CTextLayout::LineLeft(const Line& line) const {

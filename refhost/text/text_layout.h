@@ -18,7 +18,8 @@ class CTextLayout {
     CTextLayout(const CTextLayout&) = delete;
     CTextLayout& operator=(const CTextLayout&) = delete;
 
-    /// `nAlignCode` is a text_align_code. False when a font or the device context cannot be had.
+    /// `nAlignCode` is a text_align_code. False when a font or the device context cannot be had,
+    /// and for a text whose picture would be larger than a picture can be.
     bool Make(const std::vector<RichTextRun>& runs, int nAlignCode);
 
     SIZE PictureSize() const { return {m_nWidth + 2 * Origin().x, m_nHeight + 2 * Origin().y}; }
@@ -50,8 +51,9 @@ class CTextLayout {
     bool MakeFonts(HDC hDC, const std::vector<RichTextRun>& runs);
     void Break(const std::vector<RichTextRun>& runs);
     void AddPiece(std::size_t nFont, const std::string& text);
-    void Measure(HDC hDC);
-    void MeasureLine(HDC hDC, Line& line);
+    bool Measure(HDC hDC);
+    bool MeasureLine(HDC hDC, Line& line);
+    bool IsPicture() const;
     int LineLeft(const Line& line) const;
     int DrawLine(HDC hDC, const Line& line, int nTop) const;
 

@@ -211,6 +211,10 @@ TEST(TextEngine, AFailureLeavesAnEmptyObjectAndNothingBehind) {
     const textCreate::textCreateParam broken = ParamOf(pBroken);
     const textCreate::textCreateParam blank = ParamOf(Record({"", ""}, 16));
     const textCreate::textCreateParam none = ParamOf(nullptr);
+    // Sums of which 32 bits keep nothing: four widths of 2^30 and more, and 2^18 lines 2^14 high.
+    const std::string strWide(1200000, 'W');
+    const textCreate::textCreateParam wide = ParamOf(Record({strWide, strWide, strWide, strWide}, 1000));
+    const textCreate::textCreateParam high = ParamOf(Record({std::string((1 << 18) - 1, '\r')}, 14665));
     struct Row {
         const textCreate::textCreateParam& param;
         const char* pszFault;
@@ -228,6 +232,8 @@ TEST(TextEngine, AFailureLeavesAnEmptyObjectAndNothingBehind) {
                            {good, "device-context", 1},
                            {broken, "-", 0},
                            {blank, "-", 0},
+                           {wide, "-", 0},
+                           {high, "-", 0},
                            {none, "-", 0}}) {
         textObject object;
         ASSERT_EQ(1, textCreate::Apply(good, object));
