@@ -25,6 +25,19 @@ CRect WhiteArea(const Pixels& pixels) {
     return rect;
 }
 
+/// The lowest white row of each line, in a view as wide as ever.
+std::vector<int> LineEnds(const Pixels& pixels) {
+    std::vector<int> ends;
+    for (std::size_t n = 0; n < pixels.size(); ++n) {
+        const int nRow = static_cast<int>(n) / ViewWidth;
+        if (GetBValue(pixels[n]) > Bright) {
+            const bool bNext = !ends.empty() && nRow <= ends.back() + 1;
+            bNext ? ends.back() = nRow : ends.emplace_back(nRow);
+        }
+    }
+    return ends;
+}
+
 class TextPixels : public testing::TestWithParam<std::tuple<double, int>> {
   protected:
     TextPixels() {
@@ -59,6 +72,24 @@ TEST_P(TextPixels, EditedTextStaysWhereTheEditorShowedIt) {
                     {.pixels = 40, .alignment = std::get<1>(GetParam()), .style = 1});
     m_stage.Edit("T");
     ExpectNoJump();
+}
+
+TEST(TextLines, TenOfTwelvePointsStayWithinAPixelDownwards) {
+    for (const double dZoom : {1.5, 2.0, 3.0}) {
+        CTextStage stage;
+        stage.NewPage(static_cast<int>(ViewWidth / dZoom), static_cast<int>(600 / dZoom), dZoom);
+        stage.SetBaseColor(RGB(0x50, 0x50, 0x50));
+        stage.WriteAt({360, 36}, "H\nH\nH\nH\nH\nH\nH\nH\nH\nH");
+        const std::vector<int> shown = LineEnds(stage.View());
+        stage.EndEditor();
+        stage.Ops().DeselectAll(1);
+        const std::vector<int> committed = LineEnds(stage.View());
+
+        ASSERT_TRUE(shown.size() == 10 && committed.size() == 10);
+        for (std::size_t i = 0; i < 10; ++i) {
+            EXPECT_NEAR(committed[i], shown[i], 1) << dZoom << ' ' << i;
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(ZoomAndAlignment, TextPixels,

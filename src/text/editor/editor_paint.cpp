@@ -27,7 +27,8 @@ void CInplaceEditor::PaintLines(CDC& dc) {
     const CRect rcArea = TextArea(layout);
     const int nSaved = dc.SaveDC();
     SelectTextFormat(dc, Format(), TA_LEFT | TA_TOP);
-    const int nAbove = layout.LineHeight() > 0 ? (rcClip.top - rcArea.top) / layout.LineHeight() : 0;
+    // The lowest row of a line's glyphs may lie over the line below.
+    const int nAbove = layout.LineHeight() > 0 ? (rcClip.top - 1 - rcArea.top) / layout.LineHeight() : 0;
     int nLine = std::max(nAbove, 0);
     for (POSITION position = m_lines.PositionOf(nLine); position; ++nLine) {
         const CString& strLine = m_lines.Next(position);

@@ -22,7 +22,7 @@ TEST(Font, MeasuresInAnInformationContextUntilTheStateComesBack) {
     const int nSaved = dc.SaveDC();
     CFont* const pStock = dc.SelectObject(&font);
     EXPECT_EQ(pStock->m_hObject, ::GetStockObject(SYSTEM_FONT));
-    EXPECT_EQ(dc.GetTextExtent(CString("Ai")), CSize(15, 19));
+    EXPECT_EQ(dc.GetTextExtent(CString("Ai")), CSize(15, 18));
     EXPECT_FALSE(::DeleteObject(font));
 
     EXPECT_TRUE(dc.RestoreDC(nSaved));

@@ -39,14 +39,14 @@ TEST(Fonts, FaceNameIsCutWithItsZero) {
     EXPECT_STREQ(face, "Liber");
 }
 
-// The face rises 1854 and descends 434 of 2048 units; both are rounded up.
+// The face rises 1854 and descends 434 of 2048 units: the ascent is rounded up, both together to nearest.
 TEST(Fonts, NegativeHeightIsTheEmAndPositiveTheCell) {
     const struct {
         int height;
         LONG ascent;
         LONG descent;
         LONG em;
-    } rows[] = {{-16, 15, 4, 16}, {-100, 91, 22, 100}, {0, 11, 3, 12}, {19, 15, 4, 16}, {20, 16, 4, 17}};
+    } rows[] = {{-16, 15, 3, 16}, {-100, 91, 21, 100}, {0, 11, 2, 12}, {19, 16, 3, 17}, {20, 17, 3, 18}};
     TextStage stage;
     for (const auto& row : rows) {
         stage.Use({.height = row.height});

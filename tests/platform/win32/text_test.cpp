@@ -72,7 +72,7 @@ TEST(Extents, TwoByteCharacterFitsWholeOrNotAtAll) {
         EXPECT_EQ(fitting.bytes, row.bytes) << row.maxExtent;
         EXPECT_EQ(fitting.extents, row.extents) << row.maxExtent;
         EXPECT_EQ(fitting.size.cx, 34) << row.maxExtent;
-        EXPECT_EQ(fitting.size.cy, 19) << row.maxExtent;
+        EXPECT_EQ(fitting.size.cy, 18) << row.maxExtent;
     }
 }
 
@@ -93,14 +93,14 @@ TEST(TextOut, AlignmentSaysWhichPointOfTheTextIsGiven) {
     stage.Write(30, 5, "Wig");
     const auto wanted = stage.Look();
     ASSERT_GT(CountOf(stage, Black), 0);
-    // "Wig" is 15 + 4 + 9 wide, 15 above and 4 below the baseline.
+    // "Wig" is 15 + 4 + 9 wide, 15 above and 3 below the baseline.
     const struct {
         UINT align;
         int x;
         int y;
     } rows[] = {
         {TA_CENTER | TA_TOP, 44, 5},       {TA_RIGHT | TA_TOP, 58, 5},    {TA_LEFT | TA_BASELINE, 30, 20},
-        {TA_CENTER | TA_BASELINE, 44, 20}, {TA_LEFT | TA_BOTTOM, 30, 24}, {TA_RIGHT | TA_BASELINE, 58, 20},
+        {TA_CENTER | TA_BASELINE, 44, 20}, {TA_LEFT | TA_BOTTOM, 30, 23}, {TA_RIGHT | TA_BASELINE, 58, 20},
     };
     UINT before = TA_LEFT | TA_TOP;
     for (const auto& row : rows) {
@@ -120,9 +120,9 @@ TEST(TextOut, OpaqueModeFillsTheExtentAndTransparentLeavesIt) {
 
     SetBkMode(stage.Dc(), OPAQUE);
     stage.Write(10, 5, "  ");
-    EXPECT_EQ(CountOf(stage, Blue), 8 * 19);
+    EXPECT_EQ(CountOf(stage, Blue), 8 * 18);
     EXPECT_EQ(GetPixel(stage.Dc(), 10, 5), Blue);
-    EXPECT_EQ(GetPixel(stage.Dc(), 17, 23), Blue);
+    EXPECT_EQ(GetPixel(stage.Dc(), 17, 22), Blue);
 }
 
 TEST(TextOut, PiecesMakeTheWhole) {
@@ -156,6 +156,14 @@ TEST(TextOut, ClipCutsThroughGlyphsAndKeepsTheRest) {
         }
         EXPECT_EQ(stage.Look(), expected) << clip.left << ' ' << clip.top;
     }
+}
+
+// At an em of 19 the line is 21 high, 18 of it above the baseline; a g descends by 425 of 2048 units, 4 rows.
+TEST(TextOut, LowestRowOfAGlyphMayLieOverTheLine) {
+    TextStage stage;
+    stage.Use({.height = -19});
+    stage.Write(10, 0, "g");
+    EXPECT_NE(GetPixel(stage.Dc(), 14, 21), White);
 }
 
 TEST(TextOut, EdgesAreSmoothUnlessTheFontOrTheBitmapForbidsIt) {

@@ -72,7 +72,8 @@ typedef struct tagLOGFONTA {
 } LOGFONTA, *LPLOGFONTA, LOGFONT, *LPLOGFONT;
 static_assert(sizeof(LOGFONTA) == 60);
 
-/// Pixels. `tmPitchAndFamily` has bit 1 set for a font of varying widths.
+/// Pixels. A line's height is rounded once, to nearest; its ascent is rounded up, so that a glyph's lowest
+/// row may lie over the line's lower end. `tmPitchAndFamily` has bit 1 set for a font of varying widths.
 typedef struct tagTEXTMETRICA {
     LONG tmHeight;
     LONG tmAscent;

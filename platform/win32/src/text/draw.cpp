@@ -63,9 +63,9 @@ static void BlendQuad(DWORD* pixels, const InkLanes& ink, const Quad::Lanes& sha
 /// Draws pictures of one ink on an open canvas.
 class CGlyphPainter {
   public:
-    CGlyphPainter(const Canvas& canvas, DWORD ink, int top, int height)
+    CGlyphPainter(const Canvas& canvas, DWORD ink, int top, int rows)
         : m_canvas(canvas), m_ink(ink), m_inkLanes(ink), m_top(top),
-          m_wholeRows(!canvas.monochrome && top >= canvas.clip.top && top + height <= canvas.clip.bottom) {}
+          m_wholeRows(!canvas.monochrome && top >= canvas.clip.top && top + rows <= canvas.clip.bottom) {}
 
     void Draw(const Glyph& glyph, LONG pen) const {
         const LONG left = pen + glyph.left;
@@ -120,7 +120,7 @@ class CGlyphPainter {
 
 static void DrawGlyphs(const Canvas& canvas, CFontInstance& font, std::string_view text, POINT corner,
                        DWORD ink) {
-    const CGlyphPainter painter(canvas, ink, corner.y, font.Height());
+    const CGlyphPainter painter(canvas, ink, corner.y, font.Rows());
     const LONG overhang = font.Overhang();
     const LONG end = canvas.clip.right + overhang;
     const int count = static_cast<int>(text.size());
@@ -172,13 +172,13 @@ BOOL TextOutA(HDC dc, int x, int y, LPCSTR text, int count) {
     Canvas canvas;
     // A line above or below the clip costs no look at its text.
     if (count == 0 || !IsReachable(point) || !OpenCanvas(*context, &canvas) || top >= canvas.clip.bottom ||
-        top + font.Height() <= canvas.clip.top) {
+        top + font.Rows() <= canvas.clip.top) {
         return TRUE;
     }
     const int extent = font.Extent(text, count);
     const LONG left = point.x - ColumnsBeforePoint(extent, context->textAlign);
     const RECT cell = {left, top, left + extent, top + font.Height()};
-    RECT box = cell;
+    RECT box = {cell.left, top, cell.right, top + font.Rows()};
     InflateRect(&box, font.Overhang(), 0);
     if (NarrowForDrawing(*context, box, &canvas)) {
         DrawText(*context, canvas, {text, static_cast<size_t>(count)}, cell);

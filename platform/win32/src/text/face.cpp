@@ -71,11 +71,11 @@ int Face::Advance(unsigned glyph, int em) const {
     return static_cast<int>((2 * LONGLONG{advance} * em + units) / (2 * units));
 }
 
-// The part of the picture that lies in the line.
+// The part of the picture that lies in the line's rows.
 static Glyph CopyRows(const FT_Bitmap& bitmap, int left, int top, const GlyphLine& line) {
     Glyph glyph;
     const int first = std::max(0, -top);
-    const int end = std::min(static_cast<int>(bitmap.rows), line.height - top);
+    const int end = std::min(static_cast<int>(bitmap.rows), line.Rows() - top);
     glyph.left = left;
     glyph.top = top + first;
     glyph.width = static_cast<int>(bitmap.width);

@@ -41,8 +41,12 @@ struct Glyph {
     int quadsWidth = 0; // How far quads reach from the left end.
 };
 
-/// The line that glyphs are drawn for. Rows outside it are cut off.
+/// The line that glyphs are drawn for. Its height is rounded as a whole and its ascent is rounded up, so a
+/// glyph may lie over its lower end; the rows beyond those, and above the line, are cut off.
 struct GlyphLine {
+    static constexpr int RowsBelow = 1;
+    int Rows() const { return height + RowsBelow; }
+
     int em;     // Pixels, at least 1.
     int ascent; // Pixels.
     int height;

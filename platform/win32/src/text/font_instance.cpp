@@ -39,6 +39,22 @@ static int ScaleUp(int units, int em, int unitsPerEm) {
     return static_cast<int>(scaled > 0 ? (scaled + unitsPerEm - 1) / unitsPerEm : -(-scaled / unitsPerEm));
 }
 
+// Pixels of a line of the face, rounded once, to nearest, so that lines grow as their sizes do.
+static int LineHeight(const FaceMetrics& metrics, int em) {
+    const LONGLONG units = metrics.ascent + metrics.descent;
+    return std::max(static_cast<int>((2 * units * em + metrics.unitsPerEm) / (2 * metrics.unitsPerEm)), 1);
+}
+
+// The largest size whose lines are no higher than the cell.
+static int EmOfCell(const FaceMetrics& metrics, int cell) {
+    const int units = std::max(metrics.ascent + metrics.descent, 1);
+    int em = static_cast<int>(LONGLONG{cell} * metrics.unitsPerEm / units) + 1;
+    while (em > 1 && LineHeight(metrics, em) > cell) {
+        --em;
+    }
+    return em;
+}
+
 CFontInstance::CFontInstance(const FontKey& key) : m_key(key), m_page(SystemCodePage()) {
     OpenFaces();
     MeasureLine();
@@ -63,19 +79,11 @@ constexpr FaceMetrics BoxMetrics = {10, 8, 2, 1, 1};
 
 void CFontInstance::MeasureLine() {
     const FaceMetrics metrics = m_faces.empty() ? BoxMetrics : MetricsOf(m_faces.front());
-    const auto ascent = [&](int em) { return ScaleUp(metrics.ascent, em, metrics.unitsPerEm); };
-    const auto height = [&](int em) { return ascent(em) + ScaleUp(metrics.descent, em, metrics.unitsPerEm); };
     const LONGLONG asked = std::abs(LONGLONG{m_key.height});
-    int em = static_cast<int>(std::min<LONGLONG>(asked == 0 ? DefaultEm : asked, LargestEm));
-    if (m_key.height > 0) {
-        const int cell = em;
-        em = static_cast<int>(LONGLONG{cell} * metrics.unitsPerEm / (metrics.ascent + metrics.descent));
-        while (em > 1 && height(em) > cell) {
-            --em;
-        }
-    }
-    em = std::max(em, 1);
-    m_line = {em, ascent(em), std::max(height(em), 1), m_key.smooth};
+    const int size = static_cast<int>(std::min<LONGLONG>(asked == 0 ? DefaultEm : asked, LargestEm));
+    const int em = m_key.height > 0 ? EmOfCell(metrics, size) : size;
+    const int height = LineHeight(metrics, em);
+    m_line = {em, std::min(ScaleUp(metrics.ascent, em, metrics.unitsPerEm), height), height, m_key.smooth};
     MeasureBars(metrics);
 }
 

@@ -41,6 +41,8 @@ class CFontInstance {
     const std::string& Family() const { return m_family; }
     int Em() const { return m_line.em; }
     int Height() const { return m_line.height; }
+    /// Of the line, with those below it that glyphs may lie in.
+    int Rows() const { return m_line.Rows(); }
     int Ascent() const { return m_line.ascent; }
     bool IsFixedPitch() const;
     int WidestAdvance() const { return m_widestAdvance; }
