@@ -12,33 +12,20 @@ namespace {
 
 using RichText = CHandle<QXRICHEDITINFO, CHandleKiller>;
 
-/// Ascent and descent of the font whose characters are so many pixels high.
-TEXTMETRICA MetricsOf(int nHeight) {
-    CDC dc;
-    CFont font;
-    dc.CreateCompatibleDC(nullptr);
-    font.CreateFont(-nHeight, 0, 0, 0, 400, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial");
-    CFont* const pBefore = dc.SelectObject(&font);
-    TEXTMETRICA metrics{};
-    dc.GetTextMetrics(&metrics);
-    dc.SelectObject(pBefore);
-    return metrics;
-}
-
 void Append(std::string& bytes, std::int32_t nWord) {
     bytes.append(reinterpret_cast<const char*>(&nWord), sizeof(nWord));
 }
 
-/// A record of one run in Arial, with nothing in the place of its text block.
-std::string OneRun(int nHeight) {
-    const TEXTMETRICA metrics = MetricsOf(nHeight);
+/// A record of one run in Arial, with nothing in the place of its text block. The metrics are those of a cell
+/// as high as the run: for 16 an em of 14, which is 15.6 high, and for 22 one of 20, which is 22.3 high.
+std::string OneRun(int nHeight, int nAscent, int nDescent) {
     std::string bytes;
     Append(bytes, 128);
     Append(bytes, 1);
     bytes.append(40, '\0');
     Append(bytes, nHeight);
-    Append(bytes, metrics.tmAscent);
-    Append(bytes, metrics.tmDescent);
+    Append(bytes, nAscent);
+    Append(bytes, nDescent);
     Append(bytes, 0);
     Append(bytes, 1);
     bytes.append(12, '\0');
@@ -82,7 +69,7 @@ TEST_F(RichTextExport, RecordIsExactToTheByte) {
     const RichText text = Export();
 
     ASSERT_FALSE(text.IsEmpty());
-    EXPECT_EQ(BytesOf(text), OneRun(16));
+    EXPECT_EQ(BytesOf(text), OneRun(16, 13, 3));
     EXPECT_EQ(TextOf(text), "ab");
 }
 
@@ -92,7 +79,7 @@ TEST_F(RichTextExport, LinesAreTrimmedPartedByCrLfAndTheEmptyLastOnesDropped) {
     const RichText text = Export();
 
     ASSERT_FALSE(text.IsEmpty());
-    EXPECT_EQ(BytesOf(text), OneRun(16));
+    EXPECT_EQ(BytesOf(text), OneRun(16, 13, 3));
     EXPECT_EQ(TextOf(text), "a\r\n\r\nb c");
 }
 
@@ -102,7 +89,7 @@ TEST_F(RichTextExport, ScaleTruncatesTheSizeAndTheEditorsStyleStaysOut) {
     (m_stage.Editor()->*calls.m_fnSetFontSizeInPixel)(15);
     (m_stage.Editor()->*calls.m_fnSetFontStyle)(7);
 
-    EXPECT_EQ(BytesOf(Export(1.5)), OneRun(22));
+    EXPECT_EQ(BytesOf(Export(1.5)), OneRun(22, 19, 3));
 }
 
 TEST_F(RichTextExport, BlanksAndEmptyLinesGiveAnEmptyHandle) {

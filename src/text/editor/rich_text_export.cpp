@@ -130,11 +130,11 @@ HGLOBAL SelectedText(CRichEditCtrl& control) {
     return hText;
 }
 
-// A negative height asks for characters of that height, as the editor's own font does.
+// The height as it is stored, so it is a cell's, unlike that of the editor's own font.
 void MeasureRun(CDC& dc, QXRICHEDITRUN& run) {
     const auto has = [&run](std::uint32_t dwEffect) { return (run.dwEffects & dwEffect) != 0; };
     CFont font;
-    if (!font.CreateFont(-run.nHeight, 0, 0, 0, has(rich_text_effect::Bold) ? BoldWeight : NormalWeight,
+    if (!font.CreateFont(run.nHeight, 0, 0, 0, has(rich_text_effect::Bold) ? BoldWeight : NormalWeight,
                          has(rich_text_effect::Italic), has(rich_text_effect::Underline),
                          has(rich_text_effect::StrikeOut), run.nCharSet, 0, 0, 0, 0, run.szFace)) {
         return;
