@@ -4,9 +4,16 @@
 #include "image/spatial_index.h"
 #include "trace/trace.h"
 
+namespace {
+
+std::uint32_t g_nLastPageId = 0;
+
+} // namespace
+
 CImgDoc::CImgDoc(int nWidth, int nHeight)
-    : m_nWidth(nWidth), m_nHeight(nHeight), m_objList(this, CImgNodeList::Role::Objects),
-      m_actList(this, CImgNodeList::Role::Selection), m_pIndex(std::make_unique<CSpatialIndex>()) {}
+    : m_nPageId(++g_nLastPageId), m_nWidth(nWidth), m_nHeight(nHeight),
+      m_objList(this, CImgNodeList::Role::Objects), m_actList(this, CImgNodeList::Role::Selection),
+      m_pIndex(std::make_unique<CSpatialIndex>()) {}
 
 CImgDoc::~CImgDoc() {
     while (!m_nodeSet.empty())

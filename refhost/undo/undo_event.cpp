@@ -27,13 +27,13 @@ BOOL CUndoEvent::IsDummyUndo() { return FALSE; }
 
 BOOL CUndoEvent::Accumulate(CUndoEvent* /*pNext*/) { return FALSE; }
 
-BOOL CUndoEvent::SetUndo(IProject_Method2* /*pProject*/, CImgNode* /*pNode*/, int /*nFlag*/) { return TRUE; }
+BOOL CUndoEvent::SetUndo(IProject_Method2* /*pProject*/, CImgNode* /*pNode*/, int /*nFlag*/) { return FALSE; }
 
 BOOL CUndoEvent::SetUndo(IProject_Method2* /*pProject*/, CImgNodeList& /*nodes*/, int /*nFlag*/) {
-    return TRUE;
+    return FALSE;
 }
 
-BOOL CUndoEvent::SetUndo(IProject_Method2* /*pProject*/, int /*nFlag*/) { return TRUE; }
+BOOL CUndoEvent::SetUndo(IProject_Method2* /*pProject*/, int /*nFlag*/) { return FALSE; }
 
 BOOL CUndoEvent::Undo() { return TRUE; }
 

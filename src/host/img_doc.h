@@ -32,6 +32,8 @@ class CImgDoc : public CDocument {
     /// 1, or 0 for a null node.
     virtual int InsertNodeFor(CImgNode* pObject, CImgNode* pNode, int nAfter);
 
+    /// Identity of the page, never used twice in a process and never 0.
+    std::uint32_t PageId() const { return m_nPageId; }
     int PageWidth() const { return m_nWidth; }
     int PageHeight() const { return m_nHeight; }
 
@@ -40,6 +42,7 @@ class CImgDoc : public CDocument {
     friend class CImgNodeList;
     friend struct CNodeBookkeeping;
 
+    std::uint32_t m_nPageId;
     int m_nWidth;
     int m_nHeight;
     HBUF32 m_hBaseImage = 0;

@@ -110,7 +110,7 @@ int areas::GetNodeRect(CTool& tool, CImgNode* pNode, RECT* pRect) {
 }
 
 int areas::GetNodeOutlineRect(CTool& tool, CImgNode* pNode, RECT* pRect) {
-    if (!pNode || !pRect) {
+    if (!pNode || !pRect || !CCanvas(tool)) {
         return 0;
     }
     *pRect = BoundsOf(CornersOfNode(tool, pNode->m_pShadowNode ? pNode->m_pShadowNode : pNode));
@@ -150,7 +150,7 @@ int areas::GetSelectionOutlineRect(CTool& tool, RECT* pRect) {
 }
 
 int areas::GetNodesRect(CTool& tool, CNodeRefList& nodes, RECT* pRect) {
-    if (!pRect) {
+    if (!pRect || !CCanvas(tool)) {
         return 0;
     }
     CRefresh area;
@@ -162,7 +162,7 @@ int areas::GetNodesRect(CTool& tool, CNodeRefList& nodes, RECT* pRect) {
 }
 
 int areas::GetNodeMarkArea(CTool& tool, CImgNode* pNode, RECT* pRect) {
-    if (!pRect) {
+    if (!pRect || !CCanvas(tool)) {
         return 0;
     }
     CRefresh area;

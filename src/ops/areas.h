@@ -29,7 +29,7 @@ Corners CornersOfNode(CTool& tool, CImgNode* pNode);
 /// The bounding rectangle of the corner points, every coordinate truncated.
 CRect BoundsOf(Corners corners);
 
-/// The operations of the tools' tables.
+/// The operations of the tools' tables. Without a view they answer 0 and leave the rectangle alone.
 namespace areas {
 int GetNodeMarkRect(CTool& tool, CImgNode* pNode, RECT* pRect);
 int GetNodeOutlineMarkRect(CTool& tool, CImgNode* pNode, RECT* pRect);

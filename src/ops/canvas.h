@@ -15,6 +15,8 @@ class CCanvas {
     bool HasDocument() const { return m_pDoc != nullptr; }
     explicit operator bool() const { return m_pDoc && m_pView; }
 
+    /// The identity of the document's page, 0 without one.
+    std::uint32_t PageId() const { return m_pDoc ? m_pDoc->PageId() : 0; }
     CVorDoc& Document() const { return *m_pDoc; }
     CVorView& View() const { return *m_pView; }
     CImgNodeList& Objects() const { return *m_pDoc->GetObjList(); }

@@ -61,6 +61,12 @@ int CObjectTool::HitTestSelected(CPoint* pPoint, CImgNode* pNode) {
     return PtInNodeOutline(pPoint, pNode) || HandleUnderPoint(*this, pNode, *pPoint) != NoHandle ? 1 : 0;
 }
 
+// What is resized may be gone then; its outline goes with it.
+void CObjectTool::m_fnDelete() {
+    CToolBase::m_fnDelete();
+    EraseOutline();
+}
+
 int CObjectTool::OnToolActivate(CListenerObject* pOther, int nActivate, int nRedraw) {
     if (nActivate != 1) {
         CancelResize();

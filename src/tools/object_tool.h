@@ -10,6 +10,7 @@ class CObjectTool : public CToolBase {
     int DrawSelectionMark(CDC* pDC, CPoint* pOrigin, CImgNode* pNode) override;
     int InvalidateSelectionMark(CImgNode* pNode) override;
     int HitTestSelected(CPoint* pPoint, CImgNode* pNode) override;
+    void m_fnDelete() override;
     const GUID& GetToolClassId() override { return tool_class::Object; }
 
     int OnToolActivate(CListenerObject* pOther, int nActivate, int nRedraw) override;
@@ -31,6 +32,7 @@ class CObjectTool : public CToolBase {
     void StepResize(CImgNode* pNode);
     int FinishResize(CPoint point);
     void CancelResize();
+    void EraseOutline();
 
     Corners CornersAt(const CCanvas& canvas, CImgNode* pNode, CPoint point);
     void RemoveHandles(CImgNode* pNode);

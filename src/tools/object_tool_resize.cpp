@@ -128,15 +128,18 @@ void CObjectTool::ResizeNode(CImgNode* pNode, CRect rcDoc) {
     }
 }
 
-// The cache holds the true picture already; the window only has to show it again.
 void CObjectTool::CancelResize() {
-    if (!IsResizing()) {
-        return;
+    EraseOutline();
+    if (IsResizing()) {
+        m_nResizing = 0;
+        ReleaseMouse();
     }
-    m_nResizing = 0;
-    ReleaseMouse();
+}
+
+// The cache holds the true picture already; the window only has to show it again.
+void CObjectTool::EraseOutline() {
     const CCanvas canvas(*this);
-    if (canvas && m_nFirstStep == 0) {
+    if (IsResizing() && m_nFirstStep == 0 && canvas) {
         canvas.View().InvalidateRect(&m_rcLastOutline, FALSE);
     }
 }

@@ -25,7 +25,7 @@ void CToolBase::OnSetCursor(CPoint* pPoint) {
     if (!pPoint || !canvas) {
         return;
     }
-    if (m_nudgeRecorder.HasCapture() && !canvas.ClientRect().PtInRect(*pPoint)) {
+    if (HasNudgeCapture() && !canvas.ClientRect().PtInRect(*pPoint)) {
         ShowCursor(*this, cursor_id::Arrow);
     } else if (IsPressed() && IsMoving()) {
         ShowCursor(*this, cursor_id::SizeAll);
@@ -39,8 +39,6 @@ void CToolBase::OnSetCursor(CPoint* pPoint) {
 int CToolBase::OnToolActivate(CListenerObject* pOther, int nActivate, int nRedraw) {
     if (nActivate != 1) {
         CancelMove();
-        // A host leaves the tool before it closes a page, whose nodes the capture holds.
-        m_nudgeRecorder.Drop();
     }
     return CToolCore::OnToolActivate(pOther, nActivate, nRedraw);
 }

@@ -66,6 +66,7 @@ class CToolBase : public CToolCore {
     int StepNudge(const CCanvas& canvas, UINT nChar);
     void AimNudge(const CCanvas& canvas, UINT nChar);
     void FinishNudge();
+    bool HasNudgeCapture();
 
     int m_nButtonHeld = 0;
     int m_nMoved = 0;
@@ -80,6 +81,7 @@ class CToolBase : public CToolCore {
     int m_nNudgeKey = 0;
     int m_nNudgeRepeat = 0;
     CUndoRecorder<CMoveChangedUndoEvent> m_nudgeRecorder;
-    CImgNode* m_pAnchor = nullptr; ///< the first selected node at the press
-    CSize m_anchorOffset;          ///< document units: press point minus the anchor's position
+    CImgNode* m_pAnchor = nullptr;  ///< the first selected node at the press
+    CSize m_anchorOffset;           ///< document units: press point minus the anchor's position
+    std::uint32_t m_nNudgePage = 0; ///< identity of the page that the nudge's capture is of
 };

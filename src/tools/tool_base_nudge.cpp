@@ -81,8 +81,11 @@ void CToolBase::CountNudgeKey(UINT nChar) {
 }
 
 int CToolBase::StepNudge(const CCanvas& canvas, UINT nChar) {
-    if (!m_nudgeRecorder.HasCapture() && !m_nudgeRecorder.CaptureBefore(*this)) {
-        return 0;
+    if (!HasNudgeCapture()) {
+        m_nNudgePage = canvas.PageId();
+        if (!m_nudgeRecorder.CaptureBefore(*this)) {
+            return 0;
+        }
     }
     const CRect rcBefore = SelectionOutlineRect(*this);
     m_fnCopySelection(m_movedNodes);
@@ -115,9 +118,18 @@ void CToolBase::AimNudge(const CCanvas& canvas, UINT nChar) {
 void CToolBase::FinishNudge() {
     m_nNudgeKey = 0;
     m_nNudgeRepeat = 0;
-    if (m_nudgeRecorder.HasCapture() && m_nudgeRecorder.RecordChange(*this) == Recorded::NoCapture) {
+    if (HasNudgeCapture() && m_nudgeRecorder.RecordChange(*this) == Recorded::NoCapture) {
         m_nudgeRecorder.Drop();
     }
+}
+
+// It outlives leaving the tool, so that a sequence in whose middle the tool is left can be undone all the
+// same, but not its page, whose nodes it names.
+bool CToolBase::HasNudgeCapture() {
+    if (m_nudgeRecorder.HasCapture() && m_nNudgePage != CCanvas(*this).PageId()) {
+        m_nudgeRecorder.Drop();
+    }
+    return m_nudgeRecorder.HasCapture();
 }
 
 int CToolBase::KeepNodeInView(CImgNode* pNode) { return KeepInView(*this, pNode); }

@@ -41,11 +41,7 @@ class CRandomPage : public CGestureStage {
     CRandomPage(unsigned nSeed, Draw draw) : m_random(nSeed), m_draw(draw) {
         Page(ViewWidth, ViewHeight, Zooms[Below(Zooms.size())], RandomScroll());
         stage.SetViewSize(ViewWidth, ViewHeight);
-        for (std::size_t n = 3 + Below(6); n > 0; --n) {
-            AddObject();
-        }
-        CViewHost::RecomposeAll(*stage.Desk().View());
-        stage.Paint();
+        AddObjects();
         stage.Trace();
     }
 
@@ -55,7 +51,7 @@ class CRandomPage : public CGestureStage {
         m_bExcludedLeads = false;
         stage.Names().NameNewNodes();
         m_orderBefore = TopLevelOrder();
-        const std::size_t nKind = Below(m_draw == Draw::Everything ? 17 : 9);
+        const std::size_t nKind = Below(m_draw == Draw::Everything ? 18 : 9);
         switch (nKind) {
         case 0:
         case 1: ClickSomewhere(); break;
@@ -73,6 +69,7 @@ class CRandomPage : public CGestureStage {
         case 13: SwitchTool(); break;
         case 14: UndoOrRedo(); break;
         case 15: HostChange(); break;
+        case 16: InterruptIt(); break;
         default: LeaveInMidDrag(); break;
         }
     }
@@ -135,6 +132,13 @@ class CRandomPage : public CGestureStage {
         std::vector<CImgNode*> order = Order();
         std::erase_if(order, [](const CImgNode* pNode) { return pNode->m_pOwner != nullptr; });
         return order;
+    }
+
+    void AddObjects() {
+        for (std::size_t n = 3 + Below(6); n > 0; --n) {
+            AddObject();
+        }
+        Recompose();
     }
 
     void AddObject() {
@@ -282,7 +286,7 @@ class CRandomPage : public CGestureStage {
         } else if (nChange == 2) {
             const bool bPlain = pNode && !pNode->m_pOwner && !pNode->m_pFrameNode && !pNode->m_pShadowNode;
             stage.Exclude(bPlain ? pNode : nullptr);
-        } else if (nChange == 3 && pNode && !pNode->m_pOwner) {
+        } else if (nChange == 3 && pNode && !pNode->m_pOwner && pNode != stage.Desk().ExcludedNode()) {
             Shadow(stage.Names().Of(pNode), Between(-9, 9), Between(-9, 9), Between(-1, 5));
             Ops().RefreshNodeShadow(pNode, 1);
         } else if (nodes.size() < MostNodes) {
@@ -303,6 +307,39 @@ class CRandomPage : public CGestureStage {
         stage.UseTool(ToolClasses[Below(ToolClasses.size())]);
         stage.Release(from);
         SelectionChangedUnrecorded();
+    }
+
+    // Something happens between the press, often on a handle, and the release; or while an arrow is held.
+    void InterruptIt() {
+        const std::vector<CImgNode*> selected = Nodes(*stage.Desk().Document()->GetActList());
+        const bool bHandle = selected.size() == 1 && Below(2) == 0;
+        const CPoint from = bHandle ? Handle(stage.Names().Of(selected[0]), Between(0, 7)) : PointToPress();
+        const std::size_t nWhat = Below(6);
+        Note("interrupted", from, CPoint(static_cast<int>(nWhat), 0));
+        if (nWhat == 5) {
+            stage.KeyDown(VK_RIGHT);
+        } else {
+            stage.Press(from);
+            stage.Move(from + CSize(8, 3));
+            stage.Move(from + CSize(19, 11));
+        }
+        switch (nWhat) {
+        case 0: stage.Key(VK_DELETE); break;
+        case 1: stage.Key('A', 1, Ctrl::Down); break;
+        case 2: stage.Key('C', 1, Ctrl::Down); break;
+        case 3: stage.Key('V', 1, Ctrl::Down); break;
+        case 4: TurnThePage(); break;
+        default: stage.UseTool(ToolClasses[Below(ToolClasses.size())]); break;
+        }
+        stage.Release(from + CSize(19, 11));
+        stage.KeyUp(VK_RIGHT);
+        SelectionChangedUnrecorded();
+    }
+
+    void TurnThePage() {
+        Page(ViewWidth, ViewHeight, 1.0, CPoint(0, 0));
+        stage.SetViewSize(ViewWidth, ViewHeight);
+        AddObjects();
     }
 
     // Events find their nodes by the selection as it was; they are of no use after a change that none
@@ -332,6 +369,9 @@ class CRandomPage : public CGestureStage {
                 const CImgNode& owner = *pNode->m_pOwner;
                 if (owner.m_pFrameNode != pNode && owner.m_pShadowNode != pNode) {
                     return "its owner does not know " + stage.Names().Of(pNode);
+                }
+                if (!stage.Desk().Document()->GetObjList()->Find(&owner)) {
+                    return "on the page without its object: " + stage.Names().Of(pNode);
                 }
                 continue;
             }

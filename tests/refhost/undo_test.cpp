@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "host/img_node_list.h"
 #include "host/undo.h"
 #include "refhost_help.h"
 #include "undo/undo_host.h"
@@ -145,4 +146,12 @@ TEST(UndoEvent, TheBaseClassIsNamedAndPlain) {
     EXPECT_EQ(FALSE, event.IsDummyUndo());
     EXPECT_EQ(FALSE, event.Accumulate(nullptr));
     EXPECT_EQ(CRect(0, 0, 0, 0), rect);
+}
+
+TEST(UndoEvent, SetsNothingUpByItself) {
+    CUndoEvent event;
+    CImgNodeList nodes(nullptr);
+    EXPECT_FALSE(event.SetUndo(nullptr, static_cast<CImgNode*>(nullptr), 0));
+    EXPECT_FALSE(event.SetUndo(nullptr, nodes, 0));
+    EXPECT_FALSE(event.SetUndo(nullptr, 0));
 }

@@ -20,7 +20,11 @@ void CollectObjects(CTool& tool, const CCanvas& canvas, CNodeRefList& objects) {
     }
 }
 
+// A running gesture selects what it moves again at its end, which would then be listed twice.
 int SelectAll(CTool& tool, const CCanvas& canvas) {
+    if (!tool.CanRunCommand()) {
+        return 0;
+    }
     CNodeRefList objects;
     CollectObjects(tool, canvas, objects);
     if (objects.GetCount() == canvas.Selection().GetCount()) {
@@ -59,8 +63,7 @@ int keys::OnKeyDown(CTool& tool, UINT nChar) {
 
 int keys::OnKeyUp(CTool& tool, UINT nChar) {
     const CCanvas canvas(tool);
-    // A command in the middle of a gesture would select what the gesture selects again at its end.
-    if (!canvas || !tool.IsCtrlDown() || !tool.CanRunCommand()) {
+    if (!canvas || !tool.IsCtrlDown()) {
         return 0;
     }
     switch (nChar) {

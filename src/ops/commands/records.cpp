@@ -7,10 +7,15 @@
 #include "undo/recorder.h"
 #include "undo/sel_changed_event.h"
 
-int records::RecordSelectionUndo(CTool& tool) { return RecordState<CSelChangedUndoEvent>(tool); }
+int records::RecordSelectionUndo(CTool& tool) {
+    return CCanvas(tool).HasDocument() ? RecordState<CSelChangedUndoEvent>(tool) : 0;
+}
 
 int records::RecordAttributeUndoForSelection(CTool& tool, UINT nDescriptionId) {
     const CCanvas canvas(tool);
+    if (!canvas.HasDocument()) {
+        return 0;
+    }
     if (!canvas.HasSelection()) {
         return 1;
     }
@@ -21,7 +26,7 @@ int records::RecordAttributeUndoForSelection(CTool& tool, UINT nDescriptionId) {
 
 int records::RecordAttributeUndo(CTool& tool, CNodeRefList& nodes, UINT nDescriptionId) {
     std::unique_ptr<CObjectAttributeChangedUndoEvent> pEvent(new CObjectAttributeChangedUndoEvent);
-    if (!pEvent) {
+    if (!pEvent || !CCanvas(tool).HasDocument()) {
         return 0;
     }
     pEvent->m_fnSaveState(&tool, nodes);
@@ -30,4 +35,6 @@ int records::RecordAttributeUndo(CTool& tool, CNodeRefList& nodes, UINT nDescrip
     return 1;
 }
 
-int records::RecordAddObjectUndo(CTool& tool) { return RecordState<CAddObjectUndoEvent>(tool); }
+int records::RecordAddObjectUndo(CTool& tool) {
+    return CCanvas(tool).HasDocument() ? RecordState<CAddObjectUndoEvent>(tool) : 0;
+}

@@ -1,5 +1,5 @@
-// The operations by which a host records a change that it is about to make. Each answers 1, or 0 when the
-// event cannot be made.
+// The operations by which a host records a change that it is about to make. Each answers 1, or 0 when there
+// is no document or the event cannot be made.
 #pragma once
 
 #include "host/tool.h"
