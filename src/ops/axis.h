@@ -17,6 +17,12 @@ inline long long Extent(const CRect& rc, Axis axis) { return FarEdge(rc, axis) -
 inline CSize ExtentOf(const CRect& rc) {
     return CSize(Saturated(Extent(rc, Axis::Horizontal)), Saturated(Extent(rc, Axis::Vertical)));
 }
+/// A point moved, and a rectangle at a point; what lies beyond 32 bits stays at their limits.
+inline CPoint Moved(CPoint point, CSize offset) {
+    return CPoint(Saturated(static_cast<long long>(point.x) + offset.cx),
+                  Saturated(static_cast<long long>(point.y) + offset.cy));
+}
+inline CRect RectAt(CPoint ptCorner, CSize size) { return CRect(ptCorner, Moved(ptCorner, size)); }
 /// A distance along one axis.
 inline CSize Along(Axis axis, long long nDistance) {
     const int n = Saturated(nDistance);

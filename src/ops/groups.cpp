@@ -1,8 +1,8 @@
 #include "ops/groups.h"
 
-#include <memory>
 #include <utility>
 
+#include "ops/canvas.h"
 #include "ops/nodes.h"
 
 namespace {
@@ -111,4 +111,9 @@ CImgNode* ObjectBehind(const CImgNodeList& objects, const CImgNode& object) {
     return nullptr;
 }
 
-void FreeCompanion(CImgNode*& pLink) { delete std::exchange(pLink, nullptr); }
+std::unique_ptr<CImgNode> DetachCompanion(const CCanvas& canvas, CImgNode*& pLink) {
+    if (canvas.HasDocument()) {
+        TakeOut(canvas.Objects(), pLink);
+    }
+    return NodePtr(std::exchange(pLink, nullptr));
+}

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <array>
+#include <memory>
 
 #include "host/img_node_list.h"
+
+class CCanvas;
 
 /// The nodes of the object's group from the front; null where it has no such companion.
 inline std::array<CImgNode*, 3> GroupOf(CImgNode& object) {
@@ -39,5 +42,8 @@ void PutGroupBehind(CImgNodeList& objects, CImgNode& object, CImgNode& other);
 CImgNode* ObjectInFrontOf(const CImgNodeList& objects, const CImgNode& object);
 CImgNode* ObjectBehind(const CImgNodeList& objects, const CImgNode& object);
 
-/// Clears the link and frees the companion that it names, which leaves the page's list.
-void FreeCompanion(CImgNode*& pLink);
+/// Takes the companion that the link names out of the page's list, clears the link, and gives it to the
+/// caller. Null when there is none.
+std::unique_ptr<CImgNode> DetachCompanion(const CCanvas& canvas, CImgNode*& pLink);
+/// The same, and frees it.
+inline void FreeCompanion(const CCanvas& canvas, CImgNode*& pLink) { DetachCompanion(canvas, pLink); }

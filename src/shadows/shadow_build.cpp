@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "host/mask.h"
+#include "ops/axis.h"
 #include "ops/buffer_owner.h"
 #include "ops/canvas.h"
 #include "ops/groups.h"
@@ -94,6 +95,12 @@ HBUF32 SoftMaskOf(CImgNode& node, int nSoftness, CTxParam& block, CSize offset, 
     return MakeSoftMask(mask.Get(), nSoftness, block, offset, BasePoint(node), ptShadow);
 }
 
+// Where the node's bounds start when its position is at the point.
+CPoint WithOwnOffset(const CImgNode& node, CPoint ptPosition) {
+    return node.m_tx.nOffsetFlag == 1 ? Moved(ptPosition, CSize(node.m_tx.nOffsetX, node.m_tx.nOffsetY))
+                                      : ptPosition;
+}
+
 CSize ShadowSizeOf(CImgNode& node) {
     return node.m_pFrameNode ? node.m_fnGetBoundRectWithFrame().Size()
                              : CSize(node.m_tx.nWidth, node.m_tx.nHeight);
@@ -122,8 +129,8 @@ HBUF32 MakeColorBuffer(HBUF32 hSoftMask, HBUF32 hImage, COLORREF crColor) {
     return buffer.Release();
 }
 
-// Takes the soft mask over. The new node stands directly behind the object and the two know each other; null
-// on failure.
+// Takes the soft mask over. The new node stands directly behind the object, or off the page like it and comes
+// with it; the two know each other. Null on failure.
 CImgNode* MakeShadowNode(const CCanvas& canvas, CImgNode& object, const CTxParam& block, HBUF32 hSoft,
                          COLORREF crColor) {
     const HBUF32 hColor = MakeColorBuffer(hSoft, object.m_hImage, crColor);
@@ -138,7 +145,9 @@ CImgNode* MakeShadowNode(const CCanvas& canvas, CImgNode& object, const CTxParam
     pShadow->m_tx = block;
     pShadow->m_tx.hMask = 0;
     pShadow->SetImage(hColor, hSoft, block.nX, block.nY, 0);
-    canvas.Document().InsertNodeFor(&object, pShadow, 1);
+    if (canvas.Objects().Find(&object)) {
+        canvas.Document().InsertNodeFor(&object, pShadow, 1);
+    }
     pShadow->m_tx.SetOrWH(pShadow->m_tx.nWidth, pShadow->m_tx.nHeight, 0);
     object.m_pShadowNode = pShadow;
     pShadow->m_pOwner = &object;
@@ -150,11 +159,12 @@ CImgNode* MakeShadowNode(const CCanvas& canvas, CImgNode& object, const CTxParam
 
 HBUF32 MakeSoftMask(HBUF32 hMask, int nSoftness, CTxParam& block, CSize offset, CPoint ptBase,
                     CPoint& ptShadow) {
-    ptShadow = ptBase + offset;
+    ptShadow = Moved(ptBase, offset);
     HBUF32 hSoft = 0;
     if (nSoftness != NoSoftMask) {
-        block.nX = Saturated(static_cast<long long>(block.nX) + offset.cx);
-        block.nY = Saturated(static_cast<long long>(block.nY) + offset.cy);
+        const CPoint ptBlock = Moved(CPoint(block.nX, block.nY), offset);
+        block.nX = ptBlock.x;
+        block.nY = ptBlock.y;
         block.hMask = hMask;
         if (!sel32SoftEdgeMakeMask(&block, 0, nSoftness, 0, 0, 0, 0)) {
             block.hMask = 0;
@@ -176,7 +186,7 @@ int CreateShadow(CTool& tool, CImgNode* pNode, int nOffsetX, int nOffsetY, const
         return 0;
     }
     const COLORREF crColor = *pcrColor;
-    RemoveShadow(pNode);
+    RemoveShadow(tool, pNode);
 
     CTxParam block = pNode->m_tx;
     CPoint ptShadow;
@@ -185,7 +195,7 @@ int CreateShadow(CTool& tool, CImgNode* pNode, int nOffsetX, int nOffsetY, const
     if (!pShadow) {
         return 0;
     }
-    pShadow->m_fnResize(CRect(ptShadow, ShadowSizeOf(*pNode)));
+    pShadow->m_fnResize(RectAt(WithOwnOffset(*pShadow, ptShadow), ShadowSizeOf(*pNode)));
     pShadow->m_nTransparency = nTransparency;
     pNode->m_shadow = {static_cast<double>(nOffsetX), static_cast<double>(nOffsetY),
                        static_cast<double>(nSoftness), nTransparency, crColor};
@@ -198,9 +208,9 @@ int CreateShadow(CTool& tool, CImgNode* pNode, const CShadowParam& param) {
                         Truncated(param.dSoftness), param.nTransparency);
 }
 
-int RemoveShadow(CImgNode* pNode) {
+int RemoveShadow(CTool& tool, CImgNode* pNode) {
     if (pNode) {
-        FreeCompanion(pNode->m_pShadowNode);
+        FreeCompanion(CCanvas(tool), pNode->m_pShadowNode);
     }
     return 1;
 }
@@ -215,7 +225,7 @@ int RegenerateShadow(CTool& tool, CImgNode* pNode) {
     }
     const CShadowParam param = pNode->m_shadow;
     const bool bDetached = canvas.Objects().Find(pNode->m_pShadowNode) == nullptr;
-    RemoveShadow(pNode);
+    RemoveShadow(tool, pNode);
     CreateShadow(tool, pNode, param);
     // Undo events keep shadows off the page this way.
     if (bDetached) {

@@ -4,14 +4,15 @@
 
 #include "host/tool.h"
 
-/// Gives the object a shadow, directly behind it. A shadow that it has goes first. 1 (also for null), or 0
-/// when it cannot be made; the object has no shadow then. Without a document nothing happens.
+/// Gives the object a shadow, directly behind it, or linked alone while the object is off the page. A shadow
+/// that it has goes first. 1 (also for null), or 0 when it cannot be made; the object has no shadow then.
+/// Without a document nothing happens.
 int CreateShadow(CTool& tool, CImgNode* pNode, int nOffsetX, int nOffsetY, const COLORREF* pcrColor,
                  int nSoftness, int nTransparency);
 /// The same with stored settings, offsets and softness truncated.
 int CreateShadow(CTool& tool, CImgNode* pNode, const CShadowParam& param);
 /// Takes the object's shadow off and frees it; the settings stay. Answers 1.
-int RemoveShadow(CImgNode* pNode);
+int RemoveShadow(CTool& tool, CImgNode* pNode);
 /// Builds the object's shadow again from its settings; one that was off the page stays off it. 1, or 0
 /// without a document.
 int RegenerateShadow(CTool& tool, CImgNode* pNode);

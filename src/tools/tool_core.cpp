@@ -279,7 +279,7 @@ int CToolCore::m_fnCreateShadow(CImgNode* pNode, int nOffsetX, int nOffsetY, con
                                 int nSoftness, int nTransparency) {
     return CreateShadow(*this, pNode, nOffsetX, nOffsetY, pcrColor, nSoftness, nTransparency);
 }
-int CToolCore::m_fnRemoveShadowOf(CImgNode* pNode) { return RemoveShadow(pNode); }
+int CToolCore::m_fnRemoveShadowOf(CImgNode* pNode) { return RemoveShadow(*this, pNode); }
 int CToolCore::m_fnRegenerateShadow(CImgNode* pNode) { return RegenerateShadow(*this, pNode); }
 HBUF32 CToolCore::m_fnMakeSoftMask(HBUF32 hMask, int nSoftness, CTxParam& block, CSize offset, CPoint ptBase,
                                    CPoint& ptShadow) {

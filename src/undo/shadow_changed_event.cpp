@@ -14,7 +14,7 @@ void RestoreShadow(CTool& tool, const NodeShadowRecord& record) {
     const CShadowParam saved = {record.offsetX, record.offsetY, record.softness, record.transparency,
                                 record.color};
     if (!record.hasShadow) {
-        RemoveShadow(pNode);
+        RemoveShadow(tool, pNode);
     } else if (!pNode->m_pShadowNode) {
         CreateShadow(tool, pNode, saved);
     } else {

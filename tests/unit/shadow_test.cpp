@@ -311,6 +311,16 @@ TEST_F(Shadow, OfAnObjectTooLargeForABufferIsRefused) {
     EXPECT_EQ(buffer_host::BufferCount(), nBuffers);
 }
 
+TEST_F(Shadow, BeyondTheLastCoordinateStandsAtIt) {
+    CImgNode* pNode = Picture(0, 0, 10, 10);
+    pNode->m_fnResize(CRect(2000000000, -2000000000, 2000000010, -1999999990));
+
+    EXPECT_EQ(CToolDesk::Shadow(pNode, 2000000000, -2000000000, 0), 1);
+
+    EXPECT_EQ(pNode->m_pShadowNode->m_tx.nX, 2147483647);
+    EXPECT_EQ(pNode->m_pShadowNode->m_tx.nY, -2147483647 - 1);
+}
+
 TEST_F(Shadow, RegeneratedFollowsItsObject) {
     CImgNode* pNode = Picture(100, 80, 40, 30);
     CToolDesk::Shadow(pNode, 7, -5, 0);

@@ -57,8 +57,8 @@ void TakeTextLook(CTool& tool, CTextNode& target, CTextNode& rebuilt, const CTex
 // The target has lost its own companions; the source's stand in their places afterwards.
 bool TakeLook(CTool& tool, const CCanvas& canvas, CImgNode& target, CImgNode& source, CTextNode* pRebuilt) {
     const bool bShadow = source.m_pShadowNode != nullptr;
-    FreeCompanion(target.m_pShadowNode);
-    FreeCompanion(target.m_pFrameNode);
+    FreeCompanion(canvas, target.m_pShadowNode);
+    FreeCompanion(canvas, target.m_pFrameNode);
     CImgNode* const pFrame = CopyFrameFor(target, source, canvas.Objects());
     if (pRebuilt) {
         TakeTextLook(tool, *AsText(&target), *pRebuilt, *AsText(&source));

@@ -24,7 +24,7 @@ void PlaceFrame(CTextNode& object, const FrameLink& frame, int nOldHeight, Frame
 bool TakePlace(CTool& tool, CTextNode& object, CTextNode& rebuilt, const PlaceRule& rule) {
     const bool bRebuildShadow = rule.shadow == ShadowRule::Rebuilt && object.m_pShadowNode;
     if (rule.shadow == ShadowRule::Rebuilt) {
-        RemoveShadow(&object);
+        RemoveShadow(tool, &object);
     }
     const FrameLink frame = FrameLinkOf(object);
     const DisplayValues display = DisplayValuesOf(object);
