@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr int LeastTextSize = 1; ///< pixels; no handle leads back from nothing
+
 /// How a rectangle's box is mapped onto another: a corner, and a factor for each axis.
 class CBoxMap {
   public:
@@ -109,7 +111,8 @@ std::optional<int> ScaledTextSize(CTool& tool, const CTextNode& text, double dSc
     if (!pPanel) {
         return std::nullopt;
     }
-    int nPoints = CInplaceEditor::m_fnConvertFontPixelToNearestPoint(Truncated(text.m_nFontSize * dScale));
+    const int nWanted = std::max(Truncated(text.m_nFontSize * dScale), LeastTextSize);
+    int nPoints = CInplaceEditor::m_fnConvertFontPixelToNearestPoint(nWanted);
     pPanel->AdjustSize(&nPoints);
-    return CInplaceEditor::m_fnConvertFontPointToPixel(nPoints);
+    return std::max(CInplaceEditor::m_fnConvertFontPointToPixel(nPoints), LeastTextSize);
 }

@@ -61,7 +61,7 @@ int CTextTool::OnLButtonDblClk(UINT nFlags, CPoint point) {
     }
     if (!bExcluded && m_nEndedOnPress == 1 && !IsOnSelection(*this, point)) {
         m_nEndedOnPress = 0;
-        SelectByEndingClick(point);
+        SelectByEndingClick(canvas, point);
     }
     CImgNode* pNode = canvas.View().m_fnSelectedNodeBoundaryUnderPt(point);
     const bool bForeign = pNode && !AsText(pNode);
@@ -90,12 +90,13 @@ int CTextTool::OnLButtonDblClk(UINT nFlags, CPoint point) {
     return 1;
 }
 
-// The press that ended the editing has selected nothing; the double-click it belongs to makes up for it.
-void CTextTool::SelectByEndingClick(CPoint point) {
-    const CCanvas canvas(*this);
+// The press that ended the editing has selected nothing; the double-click it belongs to makes up for it. The
+// view itself is asked: the commit may have taken the excluded node, by which the tool's hit tests go, off
+// the page.
+void CTextTool::SelectByEndingClick(const CCanvas& canvas, CPoint point) {
     CTouchedArea area(*this);
     ClearSelection();
-    if (CImgNode* pNode = canvas.HasDocument() ? ClickedNode(*this, point) : nullptr) {
+    if (CImgNode* pNode = ClickedObject(canvas.View().m_fnNodeUnderPt(point))) {
         Select(canvas, pNode);
     }
     area.After().FlushMarkRepaint(canvas, *this);
@@ -104,7 +105,7 @@ void CTextTool::SelectByEndingClick(CPoint point) {
 int CTextTool::StartNewText(ITextAttributePanel& panel, CPoint point) {
     panel.OnNewText();
     m_ptDblClick = point;
-    if (StartEditor(point, TextToStartWith(nullptr, CString()), 0)) {
+    if (StartEditor(point, nullptr, 0)) {
         ShowEditor();
     }
     return 1;

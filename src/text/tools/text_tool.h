@@ -7,6 +7,7 @@
 #include "ops/refresh.h"
 #include "text/editor/inplace_editor.h"
 #include "text/tools/text_tool_base.h"
+#include "text/tools/unsaved_texts.h"
 
 /// Kind 23.
 class CTextTool : public CTextToolBase, public IInplaceEditorNotify, public ITextEditEntry {
@@ -52,24 +53,25 @@ class CTextTool : public CTextToolBase, public IInplaceEditorNotify, public ITex
     void ApplyToEditor(Attribute attribute);
     int ApplyAttributesToSelection(int nMask);
     bool RebuildWith(CTextNode& node, int nMask);
-    TextAttributes Chosen(const CTextNode& node, int nMask) const;
+    void Choose(int nMask, TextAttributes& attributes) const;
     void PushAttributes();
     void ShowAttributes();
 
     // Clicks.
-    void SelectByEndingClick(CPoint point);
+    void SelectByEndingClick(const CCanvas& canvas, CPoint point);
     int StartNewText(ITextAttributePanel& panel, CPoint point);
     bool IsOnFrame(const CImgNode& node, CPoint point);
 
     // The editing session.
-    int StartEditor(CPoint point, const CString& strText, int nVisible);
+    int StartEditor(CPoint point, const CTextNode* pText, int nVisible);
+    void OfferUnsaved(const CCanvas& canvas, const CTextNode* pText);
     void ShowEditor();
     POSITION PlaceBehindAnchor(CImgNodeList& objects);
     void TakeOffPage(const CCanvas& canvas, CTextNode& node);
     void PutBackOnPage(const CCanvas& canvas, CTextNode& node);
     int AbandonEdit(const CCanvas& canvas, CTextNode& node, const CRefresh& refresh);
     void PlaceEditor(const CCanvas& canvas, CTextNode& node, CPoint ptDoc);
-    CString TextToStartWith(const CImgNode* pNode, const CString& strText);
+    void Reselect(const CCanvas& canvas, CTextNode& node);
 
     // The commit.
     void CommitText(const CCanvas& canvas, const CString& strText);
@@ -88,6 +90,6 @@ class CTextTool : public CTextToolBase, public IInplaceEditorNotify, public ITex
     CTextNode* m_pEdited = nullptr; ///< off the page while it is edited; the document owns it
     CPoint m_ptDblClick;            ///< client pixels
     int m_nEndedOnPress = 0;        ///< 1 when a single press ended an editing
-    CString m_strUnsaved;           ///< a text that could not be rendered; it is offered again
-    std::uint32_t m_nUnsavedOf = 0; ///< identity of the object that it belongs to; 0 for new text
+    int m_nSelectedAt = -1;  ///< place of the edited object in the selection as it was found; -1 for none
+    CUnsavedTexts m_unsaved; ///< texts that could not be rendered; they are offered again
 };

@@ -122,7 +122,12 @@ int CTextTool::ApplyAttributesToSelection(int nMask) {
 }
 
 bool CTextTool::RebuildWith(CTextNode& node, int nMask) {
-    std::unique_ptr<CTextNode> pNew = BuildTextLike(*this, node, TextOf(node), Chosen(node, nMask),
+    TextAttributes attributes;
+    if (!ReadAttributes(node, attributes)) {
+        return false;
+    }
+    Choose(nMask, attributes);
+    std::unique_ptr<CTextNode> pNew = BuildTextLike(*this, node, TextOf(node), attributes,
                                                     {Effect::InTextColor, Width::Kept, Display::Required});
     if (!pNew) {
         return false;
@@ -133,17 +138,14 @@ bool CTextTool::RebuildWith(CTextNode& node, int nMask) {
     return true;
 }
 
-// The object's attributes but for those in the mask, which are the tool's.
-TextAttributes CTextTool::Chosen(const CTextNode& node, int nMask) const {
-    TextAttributes attributes;
-    ReadAttributes(node, attributes);
+// The attributes in the mask become the tool's.
+void CTextTool::Choose(int nMask, TextAttributes& attributes) const {
     const TextAttributes own = Attributes();
     attributes.strFontName = nMask & FontName ? own.strFontName : attributes.strFontName;
     attributes.nPixelSize = nMask & Size ? own.nPixelSize : attributes.nPixelSize;
     attributes.nAlignment = nMask & Alignment ? own.nAlignment : attributes.nAlignment;
     attributes.nStyle = nMask & Style ? own.nStyle : attributes.nStyle;
     attributes.crText = nMask & Color ? own.crText : attributes.crText;
-    return attributes;
 }
 
 // To the panel, when this tool is the current one.

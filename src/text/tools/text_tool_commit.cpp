@@ -94,13 +94,14 @@ std::unique_ptr<CTextNode> CTextTool::BuildCommitted(const CString& strText) {
     return pNew;
 }
 
-// The text stays with the tool, and an edited object goes back as it was.
+// The text stays with the tool, and an edited object goes back as it was found.
 void CTextTool::KeepUnsaved(const CCanvas& canvas, const CString& strText) {
-    m_strUnsaved = strText;
-    m_nUnsavedOf = m_pEdited ? m_pEdited->m_nId : 0;
+    m_unsaved.Keep(canvas.PageId(), m_pEdited ? m_pEdited->m_nId : CUnsavedTexts::NewText, strText);
     if (m_pEdited) {
         PutBackOnPage(canvas, *m_pEdited);
+        Reselect(canvas, *m_pEdited);
         CRefresh refresh;
+        refresh.Add(SelectionOutlineRect(*this));
         refresh.Add(MarkArea(*this, m_pEdited));
         refresh.FlushMarkRepaint(canvas, *this);
     }

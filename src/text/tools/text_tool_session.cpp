@@ -1,6 +1,6 @@
 // Opening a new or an existing text in the editor on the canvas.
 #include <algorithm>
-#include <utility>
+#include <limits>
 
 #include "ops/groups.h"
 #include "ops/nodes.h"
@@ -8,7 +8,8 @@
 #include "ops/selection.h"
 #include "text/tools/text_tool.h"
 
-int CTextTool::StartEditor(CPoint point, const CString& strText, int nVisible) {
+// A new text starts empty.
+int CTextTool::StartEditor(CPoint point, const CTextNode* pText, int nVisible) {
     const CCanvas canvas(*this);
     if (m_pEditor || !canvas) {
         return 0;
@@ -23,11 +24,12 @@ int CTextTool::StartEditor(CPoint point, const CString& strText, int nVisible) {
     m_pEditor->m_fnSetFontColor(own.crText);
     m_pEditor->m_fnSetFontStyle(own.nStyle);
     m_pEditor->m_fnSetTextAlignType(KnownAlignment(own.nAlignment));
-    CString strOpened = strText;
+    CString strOpened = pText ? TextOf(*pText) : CString();
     if (!m_pEditor->m_fnCreate(&canvas.View(), point, strOpened, nVisible)) {
         m_pEditor.reset();
         return 0;
     }
+    OfferUnsaved(canvas, pText);
     m_pEditor->m_fnRegisterNotifyObject(this);
     return 1;
 }
@@ -37,12 +39,17 @@ void CTextTool::ShowEditor() {
     m_pEditor->SetFocus();
 }
 
-// A text that could not be rendered is offered when its object, or a new text, is opened the next time.
-CString CTextTool::TextToStartWith(const CImgNode* pNode, const CString& strText) {
-    if (m_strUnsaved.IsEmpty() || m_nUnsavedOf != (pNode ? pNode->m_nId : 0)) {
-        return strText;
+// A text that could not be rendered stands in the editor when its object, or a new text, is opened the next
+// time. The editor is opened with the object's own text, which Escape gives.
+void CTextTool::OfferUnsaved(const CCanvas& canvas, const CTextNode* pText) {
+    const std::uint32_t nObject = pText ? pText->m_nId : CUnsavedTexts::NewText;
+    if (const CString* pUnsaved = m_unsaved.Find(canvas.PageId(), nObject)) {
+        constexpr int Behind = std::numeric_limits<int>::max();
+        CString strUnsaved = *pUnsaved;
+        m_pEditor->m_fnSetSelectRange(0, -1, Behind, Behind);
+        m_pEditor->m_fnReplaceSelectRange(strUnsaved, 1);
+        m_unsaved.Drop(nObject);
     }
-    return std::exchange(m_strUnsaved, CString());
 }
 
 int CTextTool::EditTextNode(CImgNode* pNode, const CPoint* pPoint) {
@@ -68,7 +75,7 @@ int CTextTool::EditTextNode(CImgNode* pNode, int nX, int nY) {
     CPoint ptDoc = canvas.ToDocument(CPoint(nX, nY));
     ptDoc.x = std::min(std::max(ptDoc.x, rcBound.left), rcBound.right);
     ptDoc.y = std::min(std::max(ptDoc.y, rcBound.top), rcBound.bottom);
-    if (!StartEditor(CPoint(0, 0), TextToStartWith(pText, TextOf(*pText)), 0)) {
+    if (!StartEditor(CPoint(0, 0), pText, 0)) {
         return AbandonEdit(canvas, *pText, refresh);
     }
     PlaceEditor(canvas, *pText, ptDoc);
@@ -94,7 +101,21 @@ void CTextTool::PlaceEditor(const CCanvas& canvas, CTextNode& node, CPoint ptDoc
 
 void CTextTool::TakeOffPage(const CCanvas& canvas, CTextNode& node) {
     TakeGroupOut(canvas.Objects(), node);
+    int nPlace = 0;
+    m_nSelectedAt = -1;
+    for (CImgNode* pNode : Each(canvas.Selection())) {
+        m_nSelectedAt = pNode == &node ? nPlace : m_nSelectedAt;
+        ++nPlace;
+    }
     Deselect(canvas, &node);
+}
+
+// At the place where the object was found, as far as those before it are still selected.
+void CTextTool::Reselect(const CCanvas& canvas, CTextNode& node) {
+    if (m_nSelectedAt >= 0) {
+        POSITION place = canvas.Selection().FindIndex(m_nSelectedAt);
+        place ? canvas.Selection().InsertBefore(place, &node) : canvas.Selection().AddTail(&node);
+    }
 }
 
 // The anchor, or its shadow where it has one; null when the anchor is no more. It is looked for without being
@@ -111,16 +132,20 @@ POSITION CTextTool::PlaceBehindAnchor(CImgNodeList& objects) {
     return nullptr;
 }
 
-// Frame, object, shadow.
+// Frame, object, shadow. An undo may have put the object back already.
 void CTextTool::PutBackOnPage(const CCanvas& canvas, CTextNode& node) {
     CImgNodeList& objects = canvas.Objects();
-    POSITION before = PlaceBehindAnchor(objects);
-    POSITION position = before ? objects.InsertAfter(before, &node) : objects.AddHead(&node);
+    if (objects.Find(&node)) {
+        return;
+    }
+    TakeGroupOut(objects, node);
+    const POSITION before = PlaceBehindAnchor(objects);
+    const POSITION place = before ? objects.InsertAfter(before, &node) : objects.AddHead(&node);
     if (node.m_pFrameNode) {
-        objects.InsertBefore(position, node.m_pFrameNode);
+        objects.InsertBefore(place, node.m_pFrameNode);
     }
     if (node.m_pShadowNode) {
-        objects.InsertAfter(position, node.m_pShadowNode);
+        objects.InsertAfter(place, node.m_pShadowNode);
     }
 }
 
@@ -129,7 +154,7 @@ int CTextTool::AbandonEdit(const CCanvas& canvas, CTextNode& node, const CRefres
     PutBackOnPage(canvas, node);
     m_pEdited = nullptr;
     m_pZAnchor = nullptr;
-    canvas.Selection().AddTail(&node);
+    Reselect(canvas, node);
     refresh.FlushMarkRepaint(canvas, *this);
     return 0;
 }
