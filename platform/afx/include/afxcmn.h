@@ -4,7 +4,9 @@
 
 #include "afxwin.h"
 
-/// The rich-edit control (see win32/richedit.h): bytes of text, a line's end being the two bytes CR LF, with
+#include <richedit.h>
+
+/// The rich-edit control (see richedit.h): bytes of text, a line's end being the two bytes CR LF, with
 /// a format a character. Positions count bytes; the selection ends before its end position.
 class CRichEditCtrl : public CWnd {
     DECLARE_DYNAMIC(CRichEditCtrl)

@@ -3,6 +3,7 @@
 // Points, sizes and rectangles. All of them are the plain structures with operators: they allocate nothing.
 
 #include <windows.h>
+#include <windowsx.h>
 
 class CPoint;
 class CRect;

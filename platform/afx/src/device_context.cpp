@@ -39,11 +39,13 @@ BOOL CDC::CreateCompatibleDC(CDC* pDC) {
 }
 
 BOOL CDC::CreateDC(LPCSTR lpszDriverName, LPCSTR lpszDeviceName, LPCSTR lpszOutput, LPCVOID lpInitData) {
-    return AttachNew(::CreateDCA(lpszDriverName, lpszDeviceName, lpszOutput, lpInitData));
+    return AttachNew(
+        ::CreateDCA(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODEA*>(lpInitData)));
 }
 
 BOOL CDC::CreateIC(LPCSTR lpszDriverName, LPCSTR lpszDeviceName, LPCSTR lpszOutput, LPCVOID lpInitData) {
-    return AttachNew(::CreateICA(lpszDriverName, lpszDeviceName, lpszOutput, lpInitData));
+    return AttachNew(
+        ::CreateICA(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODEA*>(lpInitData)));
 }
 
 BOOL CDC::DeleteDC() { return m_hDC != nullptr && ::DeleteDC(Detach()); }

@@ -3,10 +3,10 @@
 // The C interface of the system beneath the framework: what the layers above call, and no more.
 
 #include "win32/clipboard.h"
+#include "win32/edit.h"
 #include "win32/gdi.h"
 #include "win32/kernel.h"
 #include "win32/rect.h"
-#include "win32/richedit.h"
 #include "win32/text.h"
 #include "win32/types.h"
 #include "win32/unsuffixed.h"

@@ -2,6 +2,8 @@
 
 #include "platform/faults.h"
 
+#include <richedit.h>
+
 #include <algorithm>
 #include <cstring>
 #include <random>

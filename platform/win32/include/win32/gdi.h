@@ -110,6 +110,9 @@ typedef struct tagBITMAPINFO {
     RGBQUAD bmiColors[1];
 } BITMAPINFO, *LPBITMAPINFO;
 
+/// A device's settings, which this layer's one display does not have.
+typedef struct _devicemodeA DEVMODEA;
+
 typedef struct tagPAINTSTRUCT {
     HDC hdc;
     BOOL fErase;
@@ -149,7 +152,7 @@ constexpr int LOGPIXELSX = 88;
 constexpr int LOGPIXELSY = 90;
 /// The display's resolution for every context; 0 for a bad context or another index.
 int GetDeviceCaps(HDC dc, int index);
-HDC CreateDCA(LPCSTR driver, LPCSTR device, LPCSTR output, LPCVOID init);
+HDC CreateDCA(LPCSTR driver, LPCSTR device, LPCSTR output, const DEVMODEA* init);
 /// A memory context with a 1 by 1 bitmap in it; null on failure.
 HDC CreateCompatibleDC(HDC dc);
 /// FALSE for a context that came from GetDC or BeginPaint. What is selected in it is free again.

@@ -146,7 +146,7 @@ UINT GetTextAlign(HDC dc);
 BOOL TextOutA(HDC dc, int x, int y, LPCSTR text, int count);
 
 /// An information context on the display, for DeleteDC to free: drawing on it does nothing. Null on failure.
-HDC CreateICA(LPCSTR driver, LPCSTR device, LPCSTR output, LPCVOID init);
+HDC CreateICA(LPCSTR driver, LPCSTR device, LPCSTR output, const DEVMODEA* init);
 /// Keeps the context's state; the number of the state kept, from 1 on, 0 on failure.
 int SaveDC(HDC dc);
 /// Brings a kept state back and forgets it and those kept after it; a negative number counts from the last

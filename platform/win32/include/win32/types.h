@@ -146,9 +146,6 @@ constexpr WPARAM MAKEWPARAM(ULONG_PTR low, ULONG_PTR high) {
     return static_cast<WPARAM>(static_cast<DWORD>(MAKELONG(low, high)));
 }
 constexpr LRESULT MAKELRESULT(ULONG_PTR low, ULONG_PTR high) { return MAKELPARAM(low, high); }
-/// The signed coordinates in a mouse message's LPARAM.
-constexpr int GET_X_LPARAM(LPARAM value) { return static_cast<SHORT>(LOWORD(static_cast<ULONG_PTR>(value))); }
-constexpr int GET_Y_LPARAM(LPARAM value) { return static_cast<SHORT>(HIWORD(static_cast<ULONG_PTR>(value))); }
 
 /// A COLORREF is 0x00BBGGRR.
 constexpr COLORREF RGB(int red, int green, int blue) {

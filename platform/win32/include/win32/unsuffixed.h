@@ -77,6 +77,6 @@ inline BOOL GetTextExtentExPoint(HDC dc, LPCSTR text, int count, int maxExtent, 
     return GetTextExtentExPointA(dc, text, count, maxExtent, fit, dx, size);
 }
 inline BOOL TextOut(HDC dc, int x, int y, LPCSTR text, int count) { return TextOutA(dc, x, y, text, count); }
-inline HDC CreateIC(LPCSTR driver, LPCSTR device, LPCSTR output, LPCVOID init) {
+inline HDC CreateIC(LPCSTR driver, LPCSTR device, LPCSTR output, const DEVMODEA* init) {
     return CreateICA(driver, device, output, init);
 }

@@ -127,11 +127,11 @@ static bool CanTake(const DeviceContext& context, const Bitmap& bitmap) {
 
 using namespace win32;
 
-HDC CreateDCA(LPCSTR, LPCSTR, LPCSTR, LPCVOID) {
+HDC CreateDCA(LPCSTR, LPCSTR, LPCSTR, const DEVMODEA*) {
     return MayOpen("device-context") ? EnterDisplayContext() : nullptr;
 }
 
-HDC CreateICA(LPCSTR, LPCSTR, LPCSTR, LPCVOID) {
+HDC CreateICA(LPCSTR, LPCSTR, LPCSTR, const DEVMODEA*) {
     return MayOpen("display-context") ? EnterDisplayContext() : nullptr;
 }
 

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <richedit.h>
+
 namespace win32 {
 
 /// Everything a format can say.

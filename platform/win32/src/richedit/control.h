@@ -4,7 +4,7 @@
 
 namespace win32 {
 
-/// The class "RICHEDIT" (see win32/richedit.h).
+/// The class "RICHEDIT" (see richedit.h).
 std::unique_ptr<WindowClass> MakeRichEditClass();
 
 } // namespace win32
