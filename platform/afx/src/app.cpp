@@ -2,7 +2,7 @@
 #include "afxdll_.h"
 #include "afxgdi.h"
 
-#include "platform/observer.h"
+#include "seam.h"
 
 IMPLEMENT_DYNAMIC(CWinApp, CCmdTarget)
 
@@ -22,9 +22,8 @@ CWinApp::~CWinApp() {
 
 void CWinApp::DoWaitCursor(int nCode) {
     ASSERT(nCode >= -1 && nCode <= 1);
-    platform::IObserver* const pObserver = platform::GetObserver();
-    if (nCode != 0 && pObserver != nullptr) {
-        pObserver->OnWaitCursor(nCode);
+    if (nCode != 0) {
+        afx::TellWaitCursor(nCode);
     }
 
     m_nWaitCursorCount += nCode;

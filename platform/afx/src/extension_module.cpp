@@ -1,7 +1,6 @@
 #include "afxdll_.h"
 
-#include "platform/faults.h"
-#include "platform/modules.h"
+#include "seam.h"
 
 #include <cstring>
 
@@ -9,8 +8,6 @@ IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
 
 // Constant-initialised: classes are entered before any constructor of this library need have run.
 static constinit AFX_MODULE_STATE g_moduleState = {};
-
-[[maybe_unused]] static const bool g_rawStartInstalled = (platform::SetRawStartHook(&AfxRawStart), true);
 
 AFX_MODULE_STATE* AfxGetModuleState() { return &g_moduleState; }
 
@@ -79,7 +76,7 @@ static CEnteredLists TakeEntered() {
 
 BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule) {
     const CEnteredLists entered = TakeEntered();
-    if (platform::FaultTrips("attach")) {
+    if (afx::RefusesAttach()) {
         return FALSE;
     }
     state.hModule = hModule;
