@@ -6,6 +6,9 @@
 
 #include <richedit.h>
 
+/// Makes the class of the rich-edit control, version 1, known; FALSE when its library cannot be had.
+BOOL AfxInitRichEdit();
+
 /// The rich-edit control (see richedit.h): bytes of text, a line's end being the two bytes CR LF, with
 /// a format a character. Positions count bytes; the selection ends before its end position.
 class CRichEditCtrl : public CWnd {

@@ -4,8 +4,14 @@
 
 IMPLEMENT_DYNAMIC(CRichEditCtrl, CWnd)
 
+// The library registers the window class and stays as long as the process.
+BOOL AfxInitRichEdit() {
+    static const HMODULE hRichEdit = ::LoadLibraryA("RICHED32.DLL");
+    return hRichEdit != nullptr;
+}
+
 BOOL CRichEditCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
-    return CWnd::Create("RICHEDIT", nullptr, dwStyle, rect, pParentWnd, nID);
+    return AfxInitRichEdit() && CWnd::Create("RICHEDIT", nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 int CRichEditCtrl::GetLine(int nIndex, LPSTR lpszBuffer) const {

@@ -4,6 +4,7 @@
 #include "platform/modules.h"
 
 #include <dlfcn.h>
+#include <strings.h>
 #include <unistd.h>
 
 #include <climits>
@@ -17,9 +18,10 @@ using EntryPoint = BOOL (*)(HINSTANCE, DWORD, LPVOID);
 
 struct Module {
     std::string path;
-    void* library = nullptr; // From dlopen, which this owns; the executable's is never closed.
+    void* library = nullptr; // From dlopen, which this owns.
     EntryPoint entry = nullptr;
     unsigned references = 1;
+    bool stays = false; // As long as the process, however often it is freed.
 };
 
 static constinit CHandleTable<Module, HandleKind::Module> g_modules;
@@ -39,10 +41,15 @@ static std::string RealPath(const std::string& path) {
 
 static std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
 
-static std::string FolderOfCode(const void* code) {
+static std::string FileOfCode(const void* code) {
     Dl_info info;
-    return dladdr(code, &info) && info.dli_fname ? FolderOf(RealPath(info.dli_fname)) : "";
+    return dladdr(code, &info) && info.dli_fname ? RealPath(info.dli_fname) : "";
 }
+
+static std::string LayerPath() { return FileOfCode(&g_rawStart); }
+
+// The library that brings the rich-edit control is this layer itself, under its name of old.
+static bool IsLayer(const std::string& name) { return strcasecmp(name.c_str(), "RICHED32.DLL") == 0; }
 
 static std::string ExecutablePath() { return RealPath("/proc/self/exe"); }
 
@@ -55,7 +62,10 @@ static std::string Locate(const std::string& name, const void* caller) {
     if (name.find('/') != std::string::npos) {
         return RealPath(name);
     }
-    const std::string beside = Beside(FolderOfCode(caller), name);
+    if (IsLayer(name)) {
+        return LayerPath();
+    }
+    const std::string beside = Beside(FolderOf(FileOfCode(caller)), name);
     return beside.empty() ? Beside(FolderOf(ExecutablePath()), name) : beside;
 }
 
@@ -76,14 +86,23 @@ static HMODULE Enter(std::unique_ptr<Module> module) {
     return handle;
 }
 
+static HMODULE EnterStaying(const std::string& path, void* library) {
+    auto module = std::make_unique<Module>();
+    module->path = path;
+    module->library = library;
+    module->stays = true;
+    return Enter(std::move(module));
+}
+
 static HMODULE Executable() {
-    static const HMODULE executable = [] {
-        auto module = std::make_unique<Module>();
-        module->path = ExecutablePath();
-        module->library = dlopen(nullptr, RTLD_NOW);
-        return Enter(std::move(module));
-    }();
+    static const HMODULE executable = EnterStaying(ExecutablePath(), dlopen(nullptr, RTLD_NOW));
     return executable;
+}
+
+static HMODULE Layer() {
+    static const HMODULE layer =
+        EnterStaying(LayerPath(), dlopen(LayerPath().c_str(), RTLD_NOW | RTLD_NOLOAD));
+    return layer;
 }
 
 // Drops the module from the table before it is closed: its destructors must not find it any more.
@@ -125,6 +144,9 @@ static bool Attach(HMODULE handle) {
 }
 
 static HMODULE Load(const std::string& path) {
+    if (path == LayerPath()) {
+        return Layer();
+    }
     const HMODULE handle = Open(path);
     if (handle && !Attach(handle)) {
         Close(handle);
@@ -161,7 +183,7 @@ BOOL FreeLibrary(HMODULE handle) {
     if (!module) {
         return FailWith(ERROR_INVALID_HANDLE);
     }
-    if (handle == Executable() || --module->references > 0) {
+    if (module->stays || --module->references > 0) {
         return TRUE;
     }
     if (module->entry) {

@@ -103,6 +103,20 @@ TEST_F(Modules, ExportsAreFoundByName) {
     EXPECT_EQ(GetProcAddress(module, "Answer"), nullptr);
 }
 
+TEST_F(Modules, RichEditLibraryIsThereAndOutlivesItsReleases) {
+    const HMODULE library = LoadLibraryA("RICHED32.DLL");
+    EXPECT_NE(library, nullptr);
+    EXPECT_NE(library, GetModuleHandleA(nullptr));
+
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(FreeLibrary(library));
+    }
+
+    EXPECT_EQ(LoadLibraryA("Riched32.dll"), library);
+    EXPECT_EQ(GetModuleHandleA("RICHED32.DLL"), library);
+    EXPECT_EQ(g_rawStarts, 0);
+}
+
 TEST_F(Modules, MissingFileAndFileThatIsNoModuleDiffer) {
     const std::string text = (m_folder / "Text.dll").string();
     std::ofstream(text) << "no module";
