@@ -2,7 +2,7 @@
 #include "host/tool_category.h"
 #include "tools/object_tool.h"
 
-extern "C" __attribute__((visibility("default"))) int g_fnLoadAndLinkToolCat(IToolCategory* pCategory) {
+extern "C" AFX_EXT_API int g_fnLoadAndLinkToolCat(IToolCategory* pCategory) {
     if (!pCategory) {
         return 0;
     }

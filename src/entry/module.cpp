@@ -28,8 +28,7 @@ HINSTANCE ModuleInstance() { return g_hInstance; }
 
 HMODULE ResourceModule() { return g_hResourceModule; }
 
-extern "C" __attribute__((visibility("default"))) BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason,
-                                                                      LPVOID) {
+extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID) {
     if (dwReason == DLL_PROCESS_ATTACH) {
         return Attach(hInstance);
     }

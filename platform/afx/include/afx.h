@@ -15,8 +15,16 @@
 #define BASED_CODE
 #define afx_msg
 
-/// Marks a class that an extension module exports.
+/// Marks a class, or with the second name a function, that an extension module exports. The module's own
+/// sources are compiled with _AFXEXT.
+#if defined(_WIN32) && defined(_AFXEXT)
+#define AFX_EXT_CLASS __declspec(dllexport)
+#elif defined(_WIN32)
+#define AFX_EXT_CLASS __declspec(dllimport)
+#else
 #define AFX_EXT_CLASS __attribute__((visibility("default")))
+#endif
+#define AFX_EXT_API AFX_EXT_CLASS
 
 #define ASSERT(f) assert(f)
 #define ASSERT_VALID(object) ASSERT((object) != nullptr)

@@ -36,6 +36,11 @@ constexpr DWORD DLL_PROCESS_DETACH = 0;
 constexpr DWORD DLL_PROCESS_ATTACH = 1;
 constexpr DWORD MAX_PATH = 260;
 
+/// What a module may define for LoadLibraryA to call. The reason is one of the two above; FALSE refuses the
+/// first.
+extern "C" __attribute__((visibility("default"))) BOOL WINAPI DllMain(HINSTANCE module, DWORD reason,
+                                                                      LPVOID reserved);
+
 /// Opens the named module, or counts one more reference when it is loaded. A name with a slash is a path; a
 /// bare name is looked for beside the calling module, then beside the executable. The module's `DllMain`,
 /// where it exports one, is told DLL_PROCESS_ATTACH once; when it answers FALSE the module is closed again.
