@@ -31,6 +31,15 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     add_compile_options(-Wno-restrict)
 endif()
 
+if(WIN32)
+    # The system's headers define min and max as macros unless told not to. The compiler's own libraries become part
+    # of each module, so that none of them has to be found beside it.
+    add_compile_definitions(NOMINMAX STRICT)
+    add_link_options(-static)
+    # For scripts that stand in for what is not there to link with or to run on.
+    find_package(Python3 REQUIRED COMPONENTS Interpreter)
+endif()
+
 if(PRADIX_SANITIZE)
     # The vptr check needs the type information of classes whose symbols the module hides on purpose.
     add_compile_options(-fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=undefined
