@@ -1,10 +1,9 @@
+#include "text/editor/font_units.h"
 #include "text/editor/inplace_editor.h"
 
 namespace {
 
 constexpr int DefaultDpi = 96;
-constexpr int PointsPerInch = 72;
-constexpr int TwipsPerInch = 1440;
 
 // The display's vertical resolution in pixels an inch; 0 when it cannot be asked.
 int AskDpi() {

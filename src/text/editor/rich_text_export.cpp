@@ -7,12 +7,10 @@
 
 #include "ops/drawing.h"
 #include "ops/saturate.h"
+#include "text/editor/font_units.h"
 
 namespace {
 
-constexpr int TwipsPerInch = 1440;
-constexpr int NormalWeight = 400;
-constexpr int BoldWeight = 700;
 constexpr int ProbePointSize = 10; // Tenths of a point.
 constexpr UINT SymbolCodePage = 2;
 constexpr UINT SymbolFontCodePage = 437;
@@ -134,7 +132,7 @@ HGLOBAL SelectedText(CRichEditCtrl& control) {
 void MeasureRun(CDC& dc, QXRICHEDITRUN& run) {
     const auto has = [&run](std::uint32_t dwEffect) { return (run.dwEffects & dwEffect) != 0; };
     CFont font;
-    if (!font.CreateFont(run.nHeight, 0, 0, 0, has(rich_text_effect::Bold) ? BoldWeight : NormalWeight,
+    if (!font.CreateFont(run.nHeight, 0, 0, 0, has(rich_text_effect::Bold) ? FW_BOLD : FW_NORMAL,
                          has(rich_text_effect::Italic), has(rich_text_effect::Underline),
                          has(rich_text_effect::StrikeOut), run.nCharSet, 0, 0, 0, 0, run.szFace)) {
         return;
