@@ -1,5 +1,6 @@
-// Text objects: changing an attribute of many, and opening and committing one among many objects.
-// Usage: bench_text_objects attributes TEXTS | session OBJECTS
+// Text objects: changing an attribute of many, opening and committing one among many objects, and drawing an
+// effect.
+// Usage: bench_text_objects attributes TEXTS | session OBJECTS | effect PIXELS
 #include "canvas.h"
 
 #include <algorithm>
@@ -28,6 +29,7 @@ class CTextStage {
 
     void Attributes(int nTexts);
     void Session(int nObjects, int nInFront, const std::string& suffix);
+    void Effect(int nPixels);
 
   private:
     std::unique_ptr<CTextNode> Create(int i);
@@ -139,16 +141,28 @@ void CTextStage::Session(int nObjects, int nInFront, const std::string& suffix) 
     measure::Figure(Peer, "edit_commit" + suffix, nObjects, committed);
 }
 
+// The glow reaches farthest and is softened besides.
+void CTextStage::Effect(int nPixels) {
+    const std::unique_ptr<CTextNode> pText(
+        m_stage.Ops().CreateTextNode("W", "Arial", FirstColor, nPixels, 0, 0));
+    Check(pText != nullptr, "a text");
+    CTextEffectState::Set(*pText, TextEffect::Glow, SecondColor);
+    measure::Figure(Peer, "glow", nPixels,
+                    measure::Timed(50, [&] { Check(pText->m_fnRegenerateTextEffect() == 1, "the effect"); }));
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     const std::string work = argc == 3 ? argv[1] : "";
     const int n = argc == 3 ? std::atoi(argv[2]) : 0;
-    Check((work == "attributes" || work == "session") && n > 0,
-          "usage: bench_text_objects attributes TEXTS | session OBJECTS");
-    CTextStage stage(CCanvasStage::GrowthFor(std::max(n, 100)));
+    Check((work == "attributes" || work == "session" || work == "effect") && n > 0,
+          "usage: bench_text_objects attributes TEXTS | session OBJECTS | effect PIXELS");
+    CTextStage stage(CCanvasStage::GrowthFor(work == "effect" ? 100 : std::max(n, 100)));
     if (work == "attributes") {
         stage.Attributes(n);
+    } else if (work == "effect") {
+        stage.Effect(n);
     } else {
         stage.Session(n, 0, "");
         stage.Session(n, n / 2, "_middle");

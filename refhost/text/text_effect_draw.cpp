@@ -1,6 +1,9 @@
 #include <algorithm>
-#include <cstring>
+#include <bit>
+#include <cstdlib>
+#include <new>
 #include <utility>
+#include <vector>
 
 #include "host/mask.h"
 #include "text/text_picture.h"
@@ -31,24 +34,118 @@ CBufferPtr WiderMask(const View& text, int nMargin) {
     return CBufferPtr(hMask);
 }
 
-/// The stronger of what is there and the text, which is put at (nLeft, nTop).
-void Stamp(const View& mask, const View& text, int nLeft, int nTop) {
+/// out[x] becomes the stronger of itself and in[x]. Neither overlaps the other.
+void TakeStronger(std::uint8_t* pOut, const std::uint8_t* pIn, int nCount) {
+    for (int x = 0; x < nCount; ++x)
+        pOut[x] = std::max(pOut[x], pIn[x]);
+}
+
+/// A pixel of a row that is not dark.
+struct Lit {
+    int x;
+    std::uint8_t value;
+};
+
+/// The rows' pixels that have a weaker neighbour. What the others would spread over is as strong already, by
+/// themselves or by one of these on the way.
+std::vector<std::vector<Lit>> EdgesOf(const View& text) {
+    std::vector<std::vector<Lit>> edges(static_cast<std::size_t>(text.height));
     for (int y = 0; y < text.height; ++y) {
-        const std::uint8_t* pIn = text.Row(y);
-        std::uint8_t* pOut = mask.Row(y + nTop) + nLeft;
-        for (int x = 0; x < text.width; ++x)
-            pOut[x] = std::max(pOut[x], pIn[x]);
+        const std::uint8_t* pRow = text.Row(y);
+        const auto at = [&](int nX, int nY) {
+            return nX < 0 || nY < 0 || nX >= text.width || nY >= text.height ? 0 : text.Row(nY)[nX];
+        };
+        for (int x = 0; x < text.width; ++x) {
+            const std::uint8_t value = pRow[x];
+            if (value != 0 && std::min({at(x - 1, y), at(x + 1, y), at(x, y - 1), at(x, y + 1)}) < value)
+                edges[static_cast<std::size_t>(y)].push_back({x, value});
+        }
+    }
+    return edges;
+}
+
+/// Spreads values over spans of one row. A span is entered as the two runs, each of a power of two in length,
+/// that cover it; all runs are then brought down to single pixels in one pass a length.
+class CSpanRow {
+  public:
+    CSpanRow(int nWidth, int nLongest) : m_nWidth(nWidth) {
+        m_runs.resize(static_cast<std::size_t>(std::bit_width(static_cast<unsigned>(nLongest))));
+        for (std::vector<std::uint8_t>& runs : m_runs)
+            runs.assign(static_cast<std::size_t>(nWidth), 0);
+    }
+
+    /// Each of the pixels over itself and its neighbours nBeside to both sides, which lie within the row when
+    /// they are moved by nShift.
+    void Add(const std::vector<Lit>& pixels, int nShift, int nBeside) {
+        const int nLength = 2 * nBeside + 1;
+        const int nPower = std::bit_width(static_cast<unsigned>(nLength)) - 1;
+        std::uint8_t* const pRuns = m_runs[static_cast<std::size_t>(nPower)].data() + nShift - nBeside;
+        const int nSecond = nLength - (1 << nPower);
+        for (const Lit& pixel : pixels) {
+            std::uint8_t* const pFirst = pRuns + pixel.x;
+            pFirst[0] = std::max(pFirst[0], pixel.value);
+            pFirst[nSecond] = std::max(pFirst[nSecond], pixel.value);
+        }
+    }
+
+    /// Adds what was entered to the row, and forgets it.
+    void BringDown(std::uint8_t* pOut) {
+        for (std::size_t nPower = m_runs.size() - 1; nPower > 0; --nPower) {
+            const int nHalf = 1 << (nPower - 1);
+            std::uint8_t* const pHalves = m_runs[nPower - 1].data();
+            TakeStronger(pHalves, m_runs[nPower].data(), m_nWidth);
+            TakeStronger(pHalves + nHalf, m_runs[nPower].data(), m_nWidth - nHalf);
+            std::fill(m_runs[nPower].begin(), m_runs[nPower].end(), std::uint8_t{0});
+        }
+        TakeStronger(pOut, m_runs[0].data(), m_nWidth);
+        std::fill(m_runs[0].begin(), m_runs[0].end(), std::uint8_t{0});
+    }
+
+  private:
+    int m_nWidth;
+    std::vector<std::vector<std::uint8_t>> m_runs; ///< by the power: the values of the runs that start there
+};
+
+/// The half widths of a disc's rows, from its middle downwards.
+std::vector<int> DiscRows(int nRadius) {
+    std::vector<int> rows(static_cast<std::size_t>(nRadius) + 1);
+    int dx = nRadius;
+    for (int dy = 0; dy <= nRadius; ++dy) {
+        while (dx * dx + dy * dy > nRadius * nRadius + nRadius)
+            --dx;
+        rows[static_cast<std::size_t>(dy)] = dx;
+    }
+    return rows;
+}
+
+/// The text, which is put at the margin, spread over a disc. Takes time with the pixels, for only the edges
+/// of letters are spread, whose number times the reach grows as the letters' area does.
+void SpreadOverDisc(const View& mask, const View& text, int nMargin, int nRadius) {
+    const std::vector<std::vector<Lit>> edges = EdgesOf(text);
+    const std::vector<int> disc = DiscRows(nRadius);
+    CSpanRow spans(mask.width, 2 * nRadius + 1);
+    for (int y = nMargin - nRadius; y < mask.height - nMargin + nRadius; ++y) {
+        const int nMiddle = y - nMargin;
+        const int nLast = std::min(text.height - 1, nMiddle + nRadius);
+        for (int nRow = std::max(0, nMiddle - nRadius); nRow <= nLast; ++nRow)
+            spans.Add(edges[static_cast<std::size_t>(nRow)], nMargin,
+                      disc[static_cast<std::size_t>(std::abs(nRow - nMiddle))]);
+        spans.BringDown(mask.Row(y));
+        if (nMiddle >= 0 && nMiddle < text.height)
+            TakeStronger(mask.Row(y) + nMargin, text.Row(nMiddle), text.width);
     }
 }
 
-/// The text spread over a disc.
-void StampDisc(const View& mask, const View& text, int nMargin, int nRadius) {
-    for (int dy = -nRadius; dy <= nRadius; ++dy) {
-        for (int dx = -nRadius; dx <= nRadius; ++dx) {
-            if (dx * dx + dy * dy <= nRadius * nRadius + nRadius)
-                Stamp(mask, text, nMargin + dx, nMargin + dy);
-        }
+/// A wider mask with the text spread over it; none when memory is out.
+CBufferPtr SpreadMask(const View& text, int nMargin, int nRadius) {
+    CBufferPtr mask = WiderMask(text, nMargin);
+    try {
+        if (mask)
+            SpreadOverDisc(Look(mask.Get()), text, nMargin, nRadius);
+    } catch (const std::bad_alloc&) {
+        mask.Reset();
     }
+    return mask;
 }
 
 /// Replaces the mask by one that fades over so many pixels.
@@ -110,21 +207,17 @@ void AddEmboss(const EffectPicture& picture, const EffectColors& colors, const V
 }
 
 bool AddOutline(const EffectPicture& picture, COLORREF color, const View& text, int nReach) {
-    const CBufferPtr layer = WiderMask(text, nReach);
+    const CBufferPtr layer = SpreadMask(text, nReach, nReach);
     if (!layer)
         return false;
-    StampDisc(Look(layer.Get()), text, nReach, nReach);
     AddLayer(picture, Look(layer.Get()), 0, 0, color);
     return true;
 }
 
 bool AddGlow(const EffectPicture& picture, COLORREF color, const View& text, int nReach) {
-    CBufferPtr layer = WiderMask(text, nReach);
-    if (!layer)
-        return false;
     // Half of the reach is solid, the rest fades.
-    StampDisc(Look(layer.Get()), text, nReach, nReach / 2);
-    if (!Soften(layer, nReach - nReach / 2))
+    CBufferPtr layer = SpreadMask(text, nReach, nReach / 2);
+    if (!layer || !Soften(layer, nReach - nReach / 2))
         return false;
     AddLayer(picture, Look(layer.Get()), 0, 0, color);
     return true;

@@ -7,6 +7,7 @@
 #include "host/text_node.h"
 #include "refhost_help.h"
 #include "text/text_effect.h"
+#include "text/text_picture.h"
 
 using namespace refhost_help;
 
@@ -79,6 +80,24 @@ TEST_F(Effects, AnEdgeOfThePictureBelongsToTheEffectAndTheTextStandsInIt) {
         for (int n = 0; n < 3; ++n)
             EXPECT_EQ(row.diagonal[static_cast<std::size_t>(n)], PixelAt(*pNode, n, n));
         EXPECT_TRUE(RectOf(pNode) == CRect(9, 19, 12, 22));
+    }
+}
+
+TEST_F(Effects, AnOutlineIsADiscRoundEachPixelAndTheStrongerCounts) {
+    // Four pixels far, rounded: dx * dx + dy * dy is at most 20.
+    constexpr std::array<int, 9> HalfWidths = {2, 3, 4, 4, 4, 4, 4, 3, 2};
+    const CBufferPtr text(Mask(2, 1, {255, 128}));
+    EffectPicture picture;
+
+    ASSERT_TRUE(
+        DrawTextEffect(TextEffect::Outline, {Blue, Blue}, buffer_host::Look(text.Get()), 64, picture));
+
+    const buffer_host::View mask = buffer_host::Look(picture.mask.Get());
+    ASSERT_EQ(CSize(10, 9), CSize(mask.width, mask.height));
+    for (int y = 0; y < 9; ++y) {
+        const int nHalf = HalfWidths[static_cast<std::size_t>(y)];
+        for (int x = 0; x < 10; ++x)
+            EXPECT_EQ(std::abs(x - 4) <= nHalf ? 255 : x == 5 + nHalf ? 128 : 0, mask.Row(y)[x]) << x << y;
     }
 }
 
