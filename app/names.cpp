@@ -8,6 +8,13 @@ namespace {
 constexpr char ShadowSuffix[] = ".shadow";
 constexpr char FrameSuffix[] = ".frame";
 
+struct CompanionRow {
+    const char* pszSuffix;
+    CImgNode* (*pfnCompanion)(const CImgNode& node);
+};
+constexpr CompanionRow Companions[] = {{ShadowSuffix, CNodeBookkeeping::LiveShadow},
+                                       {FrameSuffix, CNodeBookkeeping::LiveFrame}};
+
 bool EndsWith(const std::string& text, const std::string& suffix) {
     return text.size() > suffix.size() &&
            text.compare(text.size() - suffix.size(), suffix.size(), suffix) == 0;
@@ -43,18 +50,20 @@ void CNames::NameNewNodes() {
     }
 }
 
+// Only the last tail can stand for a companion: companions have none of their own.
 CImgNode* CNames::Find(const std::string& name) {
     NameNewNodes();
-    const CVorDoc* pDoc = m_desk.Document();
-    for (const char* pszSuffix : {ShadowSuffix, FrameSuffix}) {
-        const CImgNode* pOwner = EndsWith(name, pszSuffix) ? Find(WithoutSuffix(name, pszSuffix)) : nullptr;
-        if (pOwner) {
-            CImgNode* pCompanion = pszSuffix == ShadowSuffix ? pOwner->m_pShadowNode : pOwner->m_pFrameNode;
-            if (pCompanion) {
-                return pCompanion;
-            }
+    for (const auto& [suffix, pfnCompanion] : Companions) {
+        const CImgNode* pOwner = EndsWith(name, suffix) ? Labelled(WithoutSuffix(name, suffix)) : nullptr;
+        if (CImgNode* pCompanion = pOwner ? pfnCompanion(*pOwner) : nullptr) {
+            return pCompanion;
         }
     }
+    return Labelled(name);
+}
+
+CImgNode* CNames::Labelled(const std::string& name) const {
+    const CVorDoc* pDoc = m_desk.Document();
     const auto found = m_idByName.find(name);
     return found == m_idByName.end() || !pDoc ? nullptr : CNodeBookkeeping::NodeById(*pDoc, found->second);
 }
@@ -63,8 +72,8 @@ std::string CNames::Of(const CImgNode* pNode) {
     if (!pNode) {
         return {};
     }
-    if (pNode->m_pOwner) {
-        Give(CompanionName(pNode), pNode);
+    if (const CImgNode* pOwner = CNodeBookkeeping::LiveOwner(*pNode)) {
+        Give(CompanionName(*pOwner, pNode), pNode);
     } else if (!m_nameById.count(pNode->m_nId)) {
         NameNewNode(pNode);
     }
@@ -83,9 +92,9 @@ std::string CNames::OfId(std::uint32_t nId) {
     return found == m_nameById.end() ? "node#" + std::to_string(nId) : found->second;
 }
 
-std::string CNames::CompanionName(const CImgNode* pNode) {
-    const bool bShadow = pNode->m_pOwner->m_pShadowNode == pNode || pNode->m_nType == node_type::Shadow;
-    return Of(pNode->m_pOwner) + (bShadow ? ShadowSuffix : FrameSuffix);
+std::string CNames::CompanionName(const CImgNode& owner, const CImgNode* pNode) {
+    const bool bShadow = owner.m_pShadowNode == pNode || pNode->m_nType == node_type::Shadow;
+    return Of(&owner) + (bShadow ? ShadowSuffix : FrameSuffix);
 }
 
 // A person may have called a node of their own "A#2".

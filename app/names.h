@@ -33,7 +33,9 @@ class CNames {
   private:
     void NameNewNode(const CImgNode* pNode);
     std::string FreeName(const std::string& root);
-    std::string CompanionName(const CImgNode* pNode);
+    std::string CompanionName(const CImgNode& owner, const CImgNode* pNode);
+    /// The live node that was given the name itself, or null.
+    CImgNode* Labelled(const std::string& name) const;
 
     const CDesk& m_desk;
     std::map<std::string, std::uint32_t> m_idByName;

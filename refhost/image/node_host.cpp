@@ -26,6 +26,10 @@ bool CopyBuffer(HBUF32 hFrom, HBUF32& hTo) {
     return hFrom == 0 || hTo != 0;
 }
 
+CImgNode* OwnCompanion(const CImgNode& node, CImgNode* pCompanion) {
+    return CNodeBookkeeping::IsLive(pCompanion) && pCompanion->m_pOwner == &node ? pCompanion : nullptr;
+}
+
 } // namespace
 
 std::size_t CNodeBookkeeping::LiveNodes() { return LiveNodeTable().size(); }
@@ -51,6 +55,16 @@ CImgNode* CNodeBookkeeping::NodeById(const CImgDoc& doc, std::uint32_t nId) {
 std::uint32_t CNodeBookkeeping::CopyOf(const CImgNode& node) { return node.m_nCopyOf; }
 
 bool CNodeBookkeeping::IsOnPage(const CImgNode& node) { return node.m_posInObjList != nullptr; }
+
+CImgNode* CNodeBookkeeping::LiveOwner(const CImgNode& node) {
+    return IsLive(node.m_pOwner) ? node.m_pOwner : nullptr;
+}
+
+CImgNode* CNodeBookkeeping::LiveFrame(const CImgNode& node) { return OwnCompanion(node, node.m_pFrameNode); }
+
+CImgNode* CNodeBookkeeping::LiveShadow(const CImgNode& node) {
+    return OwnCompanion(node, node.m_pShadowNode);
+}
 
 void CNodeBookkeeping::NodesInRect(const CImgDoc& doc, const CRect& rect, std::vector<CImgNode*>& nodes) {
     doc.m_pIndex->Query({rect.left, rect.top, rect.right, rect.bottom}, nodes);

@@ -23,6 +23,11 @@ struct CNodeBookkeeping {
     /// The id of the node that this one was duplicated from, or 0.
     static std::uint32_t CopyOf(const CImgNode& node);
     static bool IsOnPage(const CImgNode& node);
+    /// The node's owner and companions as far as they live; null for none. A copy may still name companions
+    /// of what it was copied from, which are none of its own.
+    static CImgNode* LiveOwner(const CImgNode& node);
+    static CImgNode* LiveFrame(const CImgNode& node);
+    static CImgNode* LiveShadow(const CImgNode& node);
     static CImgDoc* DocumentOf(const CImgNode& node) { return node.m_pDoc; }
 
     /// The nodes that have a part of the rectangle (document units), front to back, into `nodes`.

@@ -98,12 +98,17 @@ struct RefusedRow {
 };
 
 TEST(HostileLine, IsRefusedInOneReadableLine) {
+    std::string tails;
+    for (int n = 0; n < 50'000; n++) {
+        tails += ".frame";
+    }
     const RefusedRow rows[] = {
         {std::string(10'000'000, 'a'), "t.scn:1: the line is longer than a mebibyte\n"},
         {"echo " + std::string(100'000, '['), "t.scn:1: lists stand too deep in each other\n"},
         {std::string("no\0such", 7), "t.scn:1: unknown command: no?such\n"},
         {"select \"a\\nb\"", "t.scn:1: NAME is no name; usage: select NAME...|none\n"},
         {"bus \"a\\r\\nb\"", "t.scn:1: remove, restore or add is unknown: a??b; usage: "},
+        {"exclude A" + tails, "t.scn:1: no node is called A.frame.frame"},
         {"dump [A]B", "t.scn:1: a blank is missing behind a list\n"},
     };
     for (const RefusedRow& row : rows) {
