@@ -83,13 +83,13 @@ Json NodeJson(CStage& stage, CImgNode& node) {
     return {{"id", node.m_nId},
             {"name", NameJson(stage, &node)},
             {"type", TypeName(node.m_nType)},
-            {"owner", NameJson(stage, node.m_pOwner)},
+            {"owner", NameJson(stage, CNodeBookkeeping::LiveOwner(node))},
             {"rect", RectJson(rcBound)},
             {"brightness", node.m_nBrightness},
             {"contrast", node.m_nContrast},
             {"transparency", node.m_nTransparency},
-            {"frame", NameJson(stage, node.m_pFrameNode)},
-            {"shadow", NameJson(stage, node.m_pShadowNode)},
+            {"frame", NameJson(stage, CNodeBookkeeping::LiveFrame(node))},
+            {"shadow", NameJson(stage, CNodeBookkeeping::LiveShadow(node))},
             {"frameRect", RectOrNull(node.m_rcFrame)},
             {"placeholderRect", RectOrNull(node.m_rcPlaceHolder)},
             {"frameFollows", node.m_nFrameFollows},
@@ -100,7 +100,7 @@ Json NodeJson(CStage& stage, CImgNode& node) {
 } // namespace
 
 Json NameJson(CStage& stage, const CImgNode* pNode) {
-    return pNode ? Json(ToUtf8(stage.Names().Of(pNode))) : Json(nullptr);
+    return CNodeBookkeeping::IsLive(pNode) ? Json(ToUtf8(stage.Names().Of(pNode))) : Json(nullptr);
 }
 
 Json RectJson(const RECT& rect) { return Json::array({rect.left, rect.top, rect.right, rect.bottom}); }

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "host/img_node.h"
+#include "image/node_host.h"
 #include "platform/observer.h"
 
 namespace trace {
@@ -53,7 +53,7 @@ std::string GuidText(const GUID& id) {
 
 } // namespace
 
-Node::Node(const CImgNode* pNode) : id(pNode != nullptr ? pNode->m_nId : 0) {}
+Node::Node(const CImgNode* pNode) : id(CNodeBookkeeping::IsLive(pNode) ? pNode->m_nId : 0) {}
 
 bool IsOn() {
     const State& state = Record();

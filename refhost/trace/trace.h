@@ -17,7 +17,8 @@ namespace trace {
 struct Color {
     COLORREF value;
 };
-/// A node argument; kept by its id, because the node may be gone when the record is read. 0 is none.
+/// A node argument; kept by its id, because the node may be gone when the record is read. 0 is none, and a
+/// node that is gone already.
 struct Node {
     Node(const CImgNode* pNode);
     std::uint32_t id;

@@ -77,6 +77,24 @@ TEST(Dump, ShadowParametersOutliveTheShadow) {
               R"({"dx":4,"dy":2.5,"softness":3,"transparency":50,"color":"#010203"})");
 }
 
+TEST(Dump, LinksToNodesThatAreGoneOrAreNotTheNodesOwnAreNull) {
+    CStage stage;
+    CImgNode* pOwner = stage.AddPlaceholder("P", 10, 20, 30, 40);
+    CImgNode* pCopy = pOwner->Duplicate();
+    pCopy->m_pFrameNode = pOwner->m_pFrameNode;
+    pCopy->m_pShadowNode = new CImgNode(nullptr);
+    delete pCopy->m_pShadowNode;
+    pOwner->m_pShadowNode = pCopy->m_pShadowNode;
+    Json json;
+
+    ASSERT_TRUE(Dump(stage, "nodes", Records::Keep, json));
+    for (const auto& [nNode, frame] : {std::pair(0, Json("P.frame")), std::pair(2, Json(nullptr))}) {
+        EXPECT_EQ(json[nNode]["frame"], frame);
+        EXPECT_EQ(json[nNode]["shadow"], nullptr);
+    }
+    EXPECT_EQ(stage.Node("P.shadow"), nullptr);
+}
+
 TEST(Dump, InputTellsFocusKeysQueueAndTimers) {
     CStage stage;
     stage.Hold(VK_LEFT, KeyStates::Async);

@@ -46,15 +46,17 @@ TEST_F(Trace, HoldsRowsInOrderUntilTheyAreTaken) {
     EXPECT_EQ(nullptr, platform::GetObserver());
 }
 
-TEST_F(Trace, ANodeIsKeptByItsIdAndNoNodeIsZero) {
+TEST_F(Trace, ANodeIsKeptByItsIdAndOneThatIsNotThereIsZero) {
     CVorDoc doc(10, 10);
     CImgNode* pNode = new CImgNode(&doc);
     const std::uint32_t nId = pNode->m_nId;
     trace::Call("doc", "Op", {trace::Node(pNode), trace::Node(nullptr)});
     delete pNode;
+    trace::Call("doc", "Late", {trace::Node(pNode)});
 
     const std::vector<trace::Row> rows = trace::Take();
 
+    EXPECT_EQ(0u, std::get<trace::Node>(rows[1].args[0]).id);
     EXPECT_EQ(nId, std::get<trace::Node>(rows[0].args[0]).id);
     EXPECT_EQ(0u, std::get<trace::Node>(rows[0].args[1]).id);
 }
