@@ -72,8 +72,14 @@ CListenerObject* CListenerObject::m_fnNext() {
 void CListenerObject::m_fnAddTargetObject(CListenerObject* pTarget) {
     if (pTarget == nullptr || std::find(m_targets.begin(), m_targets.end(), pTarget) != m_targets.end())
         return;
-    m_targets.push_back(pTarget);
-    pTarget->m_linkedFrom.push_back(this);
+    try {
+        m_targets.push_back(pTarget);
+        pTarget->m_linkedFrom.push_back(this);
+    } catch (const std::bad_alloc&) {
+        // Both sides know the link or neither does: each, at its end, takes itself out of the other.
+        if (!m_targets.empty() && m_targets.back() == pTarget)
+            m_targets.pop_back();
+    }
 }
 
 void CListenerObject::m_fnRemoveTargetObject(CListenerObject* pTarget) {

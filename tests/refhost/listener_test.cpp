@@ -7,6 +7,7 @@
 #include "bus/bus_object.h"
 #include "bus/masks.h"
 #include "refhost_help.h"
+#include "short_memory.h"
 
 using namespace refhost_help;
 
@@ -67,6 +68,18 @@ TEST(Listener, FindsTargetsOfTheKindInLinkOrder) {
     EXPECT_EQ((std::vector<CListenerObject*>{&b}), Found(seeker, 6));
     seeker.m_fnSetCommunicateObjectType(EditCategoryId, 5);
     EXPECT_EQ(nullptr, seeker.m_fnFirst());
+}
+
+TEST(Listener, ALinkThatCannotBeMadeIsOnNeitherSide) {
+    for (const int nAllocations : {0, 1}) {
+        CListenerObject seeker;
+        CPart part(5);
+        {
+            const CAllocationsScope few(nAllocations);
+            seeker.m_fnAddTargetObject(&part);
+        }
+        EXPECT_TRUE(Found(seeker, 5).empty());
+    }
 }
 
 TEST(Listener, ALinkMadeTwiceIsGoneAfterOneRemoval) {
