@@ -88,9 +88,9 @@ void JoinPlaceholder(CImgNode& object, CImgNode& frame, const CRect& rect) {
 
 CStage::CStage() : m_names(m_desk), m_pEditorHost(std::make_unique<CEditorHost>(m_desk)) {
     ResetSurroundings();
-    platform::SetClock(&m_clock);
-    m_desk.CreateView(nullptr);
-    NewPage(StartWidth, StartHeight);
+    if (!m_desk.CreateView(nullptr) || !NewPage(StartWidth, StartHeight)) {
+        throw std::bad_alloc();
+    }
     ::SetClassLongA(m_desk.View()->m_hWnd, GCL_HCURSOR,
                     static_cast<LONG>(reinterpret_cast<LONG_PTR>(::LoadCursorA(nullptr, IDC_ARROW))));
     ::SetCursor(::LoadCursorA(nullptr, IDC_ARROW));
@@ -108,7 +108,6 @@ CStage::~CStage() {
         ::FreeLibrary(m_hModule);
     }
     platform::ResetInput();
-    platform::SetClock(nullptr);
 }
 
 ModuleState CStage::LoadModule() {

@@ -71,7 +71,8 @@ struct DropAnswer {
 /// view, rectangles of nodes document units.
 class CStage {
   public:
-    /// An empty page of 720 by 480 at zoom 1 and no current tool. The module is not loaded yet.
+    /// An empty page of 720 by 480 at zoom 1 and no current tool. The module is not loaded yet. Throws
+    /// std::bad_alloc when there is no memory for desk, view or page.
     CStage();
     ~CStage();
     CStage(const CStage&) = delete;
@@ -213,8 +214,8 @@ class CStage {
     BOOL Undo();
     BOOL Redo();
 
-    /// Adds one more global receiver of kind 38 or 45.
-    void BusAdd(int nKind, bool bSearches) { m_desk.AddReceiver(nKind, bSearches); }
+    /// Adds one more global receiver of kind 38 or 45; false without memory.
+    bool BusAdd(int nKind, bool bSearches) { return m_desk.AddReceiver(nKind, bSearches); }
 
     /// Makes a node that a tool has handed out the document's, which frees what nobody else does. Nothing for
     /// null.
@@ -248,6 +249,14 @@ class CStage {
     int WaitCursors();
 
   private:
+    /// Puts a clock in force.
+    class [[nodiscard]] CClockScope {
+      public:
+        explicit CClockScope(platform::IClock& clock) { platform::SetClock(&clock); }
+        ~CClockScope() { platform::SetClock(nullptr); }
+        CClockScope(const CClockScope&) = delete;
+        CClockScope& operator=(const CClockScope&) = delete;
+    };
     struct Accelerator {
         int nKey;
         Ctrl ctrl;
@@ -277,6 +286,7 @@ class CStage {
 
     CWinApp m_app; ///< the wait cursor needs one
     platform::CVirtualClock m_clock;
+    CClockScope m_inForce{m_clock};
     HMODULE m_hModule = nullptr;
     CDesk m_desk;
     CNames m_names;

@@ -123,7 +123,9 @@ void Bus(CRunner& run, CArguments& args) {
     if (nKind != kind::ChangeReceiver && nKind != kind::RedrawReceiver) {
         args.Fail("KIND is neither 38 nor 45");
     }
-    run.Stage().BusAdd(nKind, bSearches);
+    if (!run.Stage().BusAdd(nKind, bSearches)) {
+        throw CScenarioError("no memory for the receiver");
+    }
 }
 
 void Tools(CRunner& run, CArguments& args) {

@@ -1,6 +1,7 @@
 #include "scenario/runner.h"
 
 #include <istream>
+#include <new>
 #include <ostream>
 
 #include "desk/guid_text.h"
@@ -42,6 +43,9 @@ int CRunner::Run(std::istream& in, const std::string& file) {
         } catch (const CExpectationFailed& failure) {
             m_err << where() << failure.what() << '\n';
             return exit_status::Failed;
+        } catch (const std::bad_alloc&) {
+            m_err << where() << "not enough memory\n";
+            return exit_status::Unusable;
         } catch (const std::exception& error) {
             m_err << where() << error.what() << '\n';
             return exit_status::Unusable;

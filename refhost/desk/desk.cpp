@@ -1,6 +1,7 @@
 #include "desk/desk.h"
 
 #include <algorithm>
+#include <new>
 
 #include "buffer/buffer_host.h"
 #include "desk/guid_text.h"
@@ -24,9 +25,12 @@ CDesk::CDesk()
       m_composedPage(kind::ComposedPage, {&m_values, &m_told, this}),
       m_clipboard(m_values), m_busObjects{&m_service,      &m_objectPage,  &m_textPage,
                                           &m_composedPage, &m_pageObjects, &m_clipboard} {
-    m_receivers.push_back(std::make_unique<CChangeTracker>());
-    AddReceiver(kind::ChangeReceiver, false);
-    AddReceiver(kind::RedrawReceiver, false);
+    const bool bReceivers = KeepReceiver(std::make_unique<CChangeTracker>()) &&
+                            AddReceiver(kind::ChangeReceiver, false) &&
+                            AddReceiver(kind::RedrawReceiver, false);
+    if (!bReceivers) {
+        throw std::bad_alloc();
+    }
     ChooseShownPage();
 }
 
@@ -35,7 +39,7 @@ CDesk::~CDesk() { Close(); }
 bool CDesk::CreateView(CWnd* pParent) {
     m_pView = new CDeskView(*this);
     CDeskView* pView = m_pView;
-    if (!pView->CreateWindowOn(pParent, 1, 1)) {
+    if (!pView || !pView->CreateWindowOn(pParent, 1, 1)) {
         m_pView = nullptr;
         return false;
     }
@@ -67,11 +71,15 @@ void CDesk::DropTools() {
 
 bool CDesk::NewPage(int nWidth, int nHeight, double dZoom) {
     trace::CQuietScope quiet;
+    auto pDoc = std::make_unique<CVorDoc>(nWidth, nHeight);
+    if (!pDoc) {
+        return false;
+    }
     const CToldRecord told = m_told;
     Activate(m_pCurrent, m_pCurrent, 0, 0);
     GetUndoMgr()->Clear();
     SetExcludedNode(nullptr);
-    const bool bBase = ReplaceDocument(nWidth, nHeight);
+    const bool bBase = ReplaceDocument(std::move(pDoc));
     Activate(m_pCurrent, nullptr, 1, 0);
     m_told = told;
     const bool bView = !m_pView || CViewHost::SetAll(*m_pView, static_cast<int>(nWidth * dZoom),
@@ -79,8 +87,7 @@ bool CDesk::NewPage(int nWidth, int nHeight, double dZoom) {
     return bBase && bView;
 }
 
-bool CDesk::ReplaceDocument(int nWidth, int nHeight) {
-    auto pDoc = std::make_unique<CVorDoc>(nWidth, nHeight);
+bool CDesk::ReplaceDocument(std::unique_ptr<CVorDoc> pDoc) {
     if (m_pView) {
         if (m_pDoc) {
             m_pDoc->RemoveView(m_pView);
@@ -88,7 +95,7 @@ bool CDesk::ReplaceDocument(int nWidth, int nHeight) {
         pDoc->AddView(m_pView);
     }
     Picture base;
-    const bool bBase = SolidPicture(StartBase, nWidth, nHeight, base);
+    const bool bBase = SolidPicture(StartBase, pDoc->PageWidth(), pDoc->PageHeight(), base);
     pDoc->SetBaseImage(base.image.Release());
     m_pDoc = std::move(pDoc);
     m_pageObjects.SetDocument(m_pDoc.get());
@@ -265,12 +272,17 @@ void CDesk::SetPropertyKind(const GUID& toolClass, int nKind) {
 }
 
 bool CDesk::AddReceiver(int nKind, bool bSearches) {
-    if (nKind == kind::ChangeReceiver) {
-        m_receivers.push_back(std::make_unique<CChangeReceiver>(bSearches));
-    } else if (nKind == kind::RedrawReceiver) {
-        m_receivers.push_back(std::make_unique<CRedrawReceiver>(bSearches));
-    } else {
-        return false;
+    switch (nKind) {
+    case kind::ChangeReceiver: return KeepReceiver(std::make_unique<CChangeReceiver>(bSearches));
+    case kind::RedrawReceiver: return KeepReceiver(std::make_unique<CRedrawReceiver>(bSearches));
+    default: return false;
     }
-    return true;
+}
+
+bool CDesk::KeepReceiver(std::unique_ptr<CGlobalReceiver> pReceiver) {
+    if (pReceiver) {
+        m_receivers.push_back(std::move(pReceiver));
+        return true;
+    }
+    return false;
 }

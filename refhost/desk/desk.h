@@ -26,6 +26,7 @@ enum class PanelChoice { Auto, Object, Text, ObjectAndText, Composed, Missing };
 /// loaded.
 class CDesk : public IToolCategory, private IPageSelection {
   public:
+    /// Throws std::bad_alloc when there is no memory for its objects.
     CDesk();
     ~CDesk();
     CDesk(const CDesk&) = delete;
@@ -40,7 +41,8 @@ class CDesk : public IToolCategory, private IPageSelection {
 
     /// A new page (document units) at a zoom; the view gets its size in client pixels, cut to whole ones.
     /// The base image is dark grey. Undo, excluded node and an open editor go; the current tool stays. False
-    /// when there is no memory for the base image or the view's cache: the page is there without it.
+    /// when there is no memory: the page is there without its base image or the view's cache, or, without a
+    /// document, the former page stays.
     bool NewPage(int nWidth, int nHeight, double dZoom);
     CVorDoc* Document() const { return m_pDoc.get(); }
     CDeskView* View() const { return m_pView; }
@@ -78,7 +80,7 @@ class CDesk : public IToolCategory, private IPageSelection {
     /// Another property object for the class: a page kind, 0 for none.
     void SetPropertyKind(const GUID& toolClass, int nKind);
     CPageObjects& PageObjects() { return m_pageObjects; }
-    /// One more global receiver of kind 38 or 45; false for another kind.
+    /// One more global receiver of kind 38 or 45; false for another kind, and without memory.
     bool AddReceiver(int nKind, bool bSearches);
 
     /// An interface of a listener, or null; also for a null listener.
@@ -95,7 +97,8 @@ class CDesk : public IToolCategory, private IPageSelection {
     void OnPageSelected(int nKind, int nPage) override;
     void LinkTool(CListenerObject* pTool);
     void Activate(CListenerObject* pTool, CListenerObject* pOther, int nActivate, int nRedraw);
-    bool ReplaceDocument(int nWidth, int nHeight);
+    bool ReplaceDocument(std::unique_ptr<CVorDoc> pDoc);
+    bool KeepReceiver(std::unique_ptr<CGlobalReceiver> pReceiver);
     void ChooseShownPage();
     CPropertyPage* PageOfKind(int nKind);
     void ShowMarks();

@@ -109,6 +109,7 @@ TEST(HostileLine, IsRefusedInOneReadableLine) {
         {"select \"a\\nb\"", "t.scn:1: NAME is no name; usage: select NAME...|none\n"},
         {"bus \"a\\r\\nb\"", "t.scn:1: remove, restore or add is unknown: a??b; usage: "},
         {"exclude A" + tails, "t.scn:1: no node is called A.frame.frame"},
+        {"module load\nfault tool\nbus add 38", "t.scn:3: no memory for the receiver\n"},
         {"dump [A]B", "t.scn:1: a blank is missing behind a list\n"},
     };
     for (const RefusedRow& row : rows) {
