@@ -63,9 +63,15 @@ int RenderScenario(const Request& request, std::istream& in, std::ostream& err) 
     return exit_status::Done;
 }
 
-} // namespace
+/// Whether all that was said has got out; a full disk may show only now.
+bool IsWritten(std::ostream& out, std::ostream& err) {
+    if (!out.flush()) {
+        err << "pradix: the output cannot be written\n";
+    }
+    return out && err.flush();
+}
 
-int RunProgram(int argc, const char* const* argv, std::istream& in, std::ostream& out, std::ostream& err) {
+int CarryOut(int argc, const char* const* argv, std::istream& in, std::ostream& out, std::ostream& err) {
     CLI::App app("The headless host of the Pradix canvas tools.", "pradix");
     app.set_version_flag("--version", Version);
     app.require_subcommand(1);
@@ -86,4 +92,11 @@ int RunProgram(int argc, const char* const* argv, std::istream& in, std::ostream
         return bAsked ? exit_status::Done : exit_status::Unusable;
     }
     return pRun->parsed() ? RunScenario(request, in, out, err) : RenderScenario(request, in, err);
+}
+
+} // namespace
+
+int RunProgram(int argc, const char* const* argv, std::istream& in, std::ostream& out, std::ostream& err) {
+    const int nStatus = CarryOut(argc, argv, in, out, err);
+    return IsWritten(out, err) ? nStatus : exit_status::Unusable;
 }

@@ -18,8 +18,8 @@ struct Picture {
 /// bytes. Sides above 32,767 are refused before pixels are allocated. On failure false, and `error` is one
 /// line without the file's name.
 bool LoadPicture(const char* pszFile, Picture& picture, std::string& error);
-/// Writes pixels 0x00RRGGBB as a PNG of 24 bits; `nStride` is in pixels. On failure false, no file, and one
-/// line of error.
+/// Writes pixels 0x00RRGGBB as a PNG of 24 bits; `nStride` is in pixels. On failure false and one line
+/// of error, and what had the name is as it was. Only plain files are written over.
 bool SavePng(const char* pszFile, const std::uint32_t* pPixels, int nWidth, int nHeight, int nStride,
              std::string& error);
 /// Writes an 8-bit or 24-bit buffer as a PNG.

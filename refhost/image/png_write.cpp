@@ -1,12 +1,12 @@
 #include "image/picture_file.h"
 
-#include <cerrno>
 #include <csetjmp>
 #include <cstdio>
-#include <cstring>
 #include <vector>
 
 #include <png.h>
+
+#include "image/output_file.h"
 
 namespace {
 
@@ -50,19 +50,20 @@ bool Encode(Encoder& encoder, std::FILE* pFile) {
 }
 
 bool WriteFile(const char* pszFile, Encoder& encoder) {
-    std::FILE* pFile = std::fopen(pszFile, "wb");
-    if (pFile == nullptr) {
-        encoder.error = std::strerror(errno);
+    COutputFile file(pszFile);
+    if (file.Stream() == nullptr) {
+        encoder.error = file.Error();
         return false;
     }
-    const bool bEncoded = Encode(encoder, pFile);
-    // What is still in the stream's buffer may find the disk full.
-    const bool bClosed = std::fclose(pFile) == 0;
-    if (bEncoded && !bClosed)
-        encoder.error = std::strerror(errno);
-    if (!bEncoded || !bClosed)
-        std::remove(pszFile);
-    return bEncoded && bClosed;
+    if (!Encode(encoder, file.Stream())) {
+        if (std::ferror(file.Stream()) != 0)
+            encoder.error = "it cannot be written to its end";
+        return false;
+    }
+    if (file.Commit())
+        return true;
+    encoder.error = file.Error();
+    return false;
 }
 
 bool Write(const char* pszFile, Encoder& encoder, std::string& error) {

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <memory>
+
+#include "image/output_file.h"
 
 namespace {
 
@@ -115,7 +116,7 @@ bool SaveRichText(const char* pszFile, const QXRICHEDITINFO* pInfo) {
     std::string bytes;
     if (!RichTextToBytes(pInfo, bytes))
         return false;
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> pFile(std::fopen(pszFile, "wb"), &std::fclose);
-    return pFile != nullptr && std::fwrite(bytes.data(), 1, bytes.size(), pFile.get()) == bytes.size() &&
-           std::fclose(pFile.release()) == 0;
+    COutputFile file(pszFile);
+    return file.Stream() != nullptr &&
+           std::fwrite(bytes.data(), 1, bytes.size(), file.Stream()) == bytes.size() && file.Commit();
 }

@@ -28,5 +28,6 @@ bool ReadRichText(const QXRICHEDITINFO* pInfo, std::vector<RichTextRun>& runs);
 /// The form in a file: the record's bytes, then each run's text with its zero; no bytes at all for null.
 /// False, with `bytes` empty, for a broken record.
 bool RichTextToBytes(const QXRICHEDITINFO* pInfo, std::string& bytes);
-/// Writes that form. False for a broken record, when no file is made, and when it cannot be written.
+/// Writes that form. False for a broken record and when it cannot be written; what had the name is then as it
+/// was.
 bool SaveRichText(const char* pszFile, const QXRICHEDITINFO* pInfo);

@@ -96,6 +96,16 @@ TEST(CommandLine, RenderWritesThePageAlone) {
     EXPECT_EQ(pixels.Row(0)[1], 0x00);
 }
 
+TEST(CommandLine, OutputThatIsNotWrittenIsStatusTwo) {
+    std::istringstream in("echo x\n");
+    std::ostream full(nullptr);
+    std::ostringstream err;
+    const char* const argv[] = {"pradix", "run", "-"};
+
+    EXPECT_EQ(RunProgram(3, argv, in, full, err), 2);
+    EXPECT_EQ(err.str(), "pradix: the output cannot be written\n");
+}
+
 TEST(CommandLine, RenderRefusesAScaleThatLeavesNothing) {
     const CTempFileScope picture(".png");
 

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <fstream>
 #include <string>
 
@@ -215,6 +217,27 @@ TEST_F(PictureFile, WhatIsSavedIsLoadedAgainInItsOwnDepth) {
     EXPECT_FALSE(SaveBufferPng(name.c_str(), 0, error));
     EXPECT_FALSE(SavePng("/nowhere/at-all.png", pixels, 2, 2, 3, error));
     EXPECT_TRUE(IsOneLine());
+}
+
+TEST_F(PictureFile, WhatCannotBeWrittenLeavesWhatHadTheName) {
+    const std::uint32_t pixel = 0x010203;
+    const std::string link = name + "-link";
+    ASSERT_TRUE(Load(Png(1, 1, 8, 2, Bytes("\0\x11\x22\x33", 4))));
+    ASSERT_EQ(0, symlink(name.c_str(), link.c_str()));
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit former{};
+    getrlimit(RLIMIT_FSIZE, &former);
+    const rlimit full{8, former.rlim_max};
+
+    setrlimit(RLIMIT_FSIZE, &full);
+    EXPECT_FALSE(SavePng(name.c_str(), &pixel, 1, 1, 1, error));
+    setrlimit(RLIMIT_FSIZE, &former);
+    for (const std::string& file : {link, Bytes("/dev/null")})
+        EXPECT_TRUE(!SavePng(file.c_str(), &pixel, 1, 1, 1, error) && IsOneLine()) << file;
+
+    unlink(link.c_str());
+    ASSERT_TRUE(LoadPicture(name.c_str(), picture, error)) << error;
+    EXPECT_EQ(0x112233u, At(0, 0));
 }
 
 TEST_F(PictureFile, AScaledSolidStaysSolid) {
