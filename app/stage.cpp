@@ -153,12 +153,14 @@ bool CStage::SetViewSize(int nWidth, int nHeight) {
     return CViewHost::SetClientSize(*m_desk.View(), nWidth, nHeight);
 }
 
-void CStage::SetBaseColor(COLORREF crBase) {
+bool CStage::SetBaseColor(COLORREF crBase) {
     Picture picture;
     const CVorDoc& doc = *m_desk.Document();
-    if (SolidPicture(crBase, doc.PageWidth(), doc.PageHeight(), picture)) {
-        m_desk.SetBaseImage(picture.image.Release());
+    if (!SolidPicture(crBase, doc.PageWidth(), doc.PageHeight(), picture)) {
+        return false;
     }
+    m_desk.SetBaseImage(picture.image.Release());
+    return true;
 }
 
 bool CStage::SetBaseFile(const char* pszFile, std::string& error) {

@@ -90,7 +90,8 @@ class CStage {
     bool NewPage(int nWidth, int nHeight, double dZoom = 1.0);
     void SetScroll(CPoint ptDoc);
     bool SetViewSize(int nWidth, int nHeight);
-    void SetBaseColor(COLORREF crBase);
+    /// False when there is no memory for it.
+    bool SetBaseColor(COLORREF crBase);
     /// Null takes the base image away. False and a reason when the file is no picture.
     bool SetBaseFile(const char* pszFile, std::string& error);
 

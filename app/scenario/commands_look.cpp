@@ -115,7 +115,7 @@ bool RenderToFile(CStage& stage, const std::string& file, double dScale, std::st
         error = "the page cannot be rendered at that scale";
         return false;
     }
-    if (!SavePng(file.c_str(), page.pixels.data(), page.width, page.height, page.width, error)) {
+    if (!SavePng(file.c_str(), page.pixels.get(), page.width, page.height, page.width, error)) {
         error = file + ": " + error;
         return false;
     }

@@ -1,14 +1,22 @@
 #include <array>
 #include <climits>
 
+#include "image/view_host.h"
+#include "platform/pixels.h"
 #include "scenario/commands.h"
 #include "scenario/error.h"
 
 namespace {
 
 constexpr int LargestSide = 32767;
-/// More would be a slip that fills the machine's memory: half a gibibyte of view.
+/// More would be a slip that fills the machine's memory.
 constexpr double MostPixels = 1 << 27;
+/// A page's base image has three bytes a pixel; a view's window, its cache and the page below its marks have
+/// four each.
+constexpr double PageBytes = 3.0;
+constexpr double ViewBytes = 12.0;
+
+double PixelsOf(const CSize& size) { return static_cast<double>(size.cx) * size.cy; }
 
 bool IsArea(double dWidth, double dHeight) {
     return dWidth >= 1.0 && dHeight >= 1.0 && dWidth <= LargestSide && dHeight <= LargestSide &&
@@ -42,6 +50,9 @@ void Page(CRunner& run, CArguments& args) {
     if (!IsArea(size.cx * dZoom, size.cy * dZoom)) {
         args.Fail("Z is out of range");
     }
+    if (PixelsOf(size) * (PageBytes + ViewBytes * dZoom * dZoom) > platform::MostPixelBytes) {
+        args.Fail("W by H has too many pixels");
+    }
     if (!run.Stage().NewPage(size.cx, size.cy, dZoom)) {
         throw CScenarioError("no memory for the page");
     }
@@ -56,6 +67,11 @@ void Scroll(CRunner& run, CArguments& args) {
 void View(CRunner& run, CArguments& args) {
     const CSize size = TakeSize(args);
     args.End();
+    const CSize now = CViewHost::ClientSize(*run.Stage().Desk().View());
+    if (platform::PixelBytesTaken() + ViewBytes * (PixelsOf(size) - PixelsOf(now)) >
+        platform::MostPixelBytes) {
+        args.Fail("W by H has too many pixels");
+    }
     if (!run.Stage().SetViewSize(size.cx, size.cy)) {
         throw CScenarioError("no memory for the view");
     }
@@ -65,7 +81,9 @@ void Base(CRunner& run, CArguments& args) {
     if (args.NextIs(TokenKind::Color)) {
         const COLORREF crBase = args.Color("#RRGGBB");
         args.End();
-        run.Stage().SetBaseColor(crBase);
+        if (!run.Stage().SetBaseColor(crBase)) {
+            throw CScenarioError("no memory for the base image");
+        }
         return;
     }
     const bool bNone = args.TakeWord("none");

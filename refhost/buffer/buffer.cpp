@@ -6,12 +6,15 @@
 
 #include "buffer/buffer_host.h"
 #include "platform/faults.h"
+#include "platform/pixels.h"
 
 namespace {
 
 std::uint32_t g_nLockCount = 0;
 
 constexpr int MaxSide = 32767;
+/// More than one picture ever has; a small file or a short script could promise it.
+constexpr std::size_t MaxPixels = std::size_t{1} << 27;
 
 struct Header {
     std::uint32_t nGeneration;
@@ -113,25 +116,38 @@ CHandleTable& Table() {
     return table;
 }
 
-bool IsSide(int nSide) { return nSide >= 1 && nSide <= MaxSide; }
+bool IsSize(int nWidth, int nHeight) {
+    const auto side = [](int nSide) { return nSide >= 1 && nSide <= MaxSide; };
+    return side(nWidth) && side(nHeight) &&
+           static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight) <= MaxPixels;
+}
 
-/// A buffer's memory, cleared or not; null when there is none.
+/// A buffer's memory, cleared or not; null when there is none, or no room for more pixels.
 Header* Allocate(int nUnit, int nWidth, int nHeight, bool bClear) {
     Header header{0, 0, static_cast<std::int16_t>(nWidth), static_cast<std::int16_t>(nHeight), nUnit};
+    if (!platform::TakePixelBytes(ByteCount(header)))
+        return nullptr;
     const std::size_t nBytes = sizeof(Header) + ByteCount(header) + buffer_host::ReadablePadding;
     void* pMemory = bClear ? std::calloc(1, nBytes) : std::malloc(nBytes);
-    if (pMemory == nullptr)
+    if (pMemory == nullptr) {
+        platform::ReturnPixelBytes(ByteCount(header));
         return nullptr;
+    }
     Header* pHeader = static_cast<Header*>(pMemory);
     *pHeader = header;
     std::memset(Pixels(pHeader) + ByteCount(header), 0, buffer_host::ReadablePadding);
     return pHeader;
 }
 
+void Release(Header* pHeader) {
+    platform::ReturnPixelBytes(ByteCount(*pHeader));
+    std::free(pHeader);
+}
+
 HBUF32 Enter(Header* pHeader) {
     const HBUF32 hBuf = pHeader != nullptr ? Table().Add(pHeader) : 0;
-    if (hBuf == 0)
-        std::free(pHeader);
+    if (hBuf == 0 && pHeader != nullptr)
+        Release(pHeader);
     return hBuf;
 }
 
@@ -143,7 +159,7 @@ int buf32Alloc(HBUF32* phBuf, int nBits, int nWidth, int nHeight, int nFill, int
     if (phBuf == nullptr)
         return 0;
     *phBuf = 0;
-    if ((nBits != 8 && nBits != 24 && nBits != 32) || !IsSide(nWidth) || !IsSide(nHeight))
+    if ((nBits != 8 && nBits != 24 && nBits != 32) || !IsSize(nWidth, nHeight))
         return 0;
     if (platform::FaultTrips("buffer"))
         return 0;
@@ -173,7 +189,7 @@ int buf32Free(HBUF32 hBuf) {
     if (pHeader == nullptr)
         return 0;
     Table().Remove(hBuf);
-    std::free(pHeader);
+    Release(pHeader);
     return 1;
 }
 

@@ -94,11 +94,12 @@ bool CDesk::ReplaceDocument(std::unique_ptr<CVorDoc> pDoc) {
         }
         pDoc->AddView(m_pView);
     }
-    Picture base;
-    const bool bBase = SolidPicture(StartBase, pDoc->PageWidth(), pDoc->PageHeight(), base);
-    pDoc->SetBaseImage(base.image.Release());
     m_pDoc = std::move(pDoc);
     m_pageObjects.SetDocument(m_pDoc.get());
+    // The former page's pixels have made room.
+    Picture base;
+    const bool bBase = SolidPicture(StartBase, m_pDoc->PageWidth(), m_pDoc->PageHeight(), base);
+    m_pDoc->SetBaseImage(base.image.Release());
     return bBase;
 }
 

@@ -41,6 +41,7 @@ void CDisplayCache::Release() {
         DeleteDC(m_hSourceDC);
     m_target = {};
     m_page = {};
+    m_pagePixels.reset();
     m_source = {};
     m_stale.Clear();
     m_hDC = m_hSourceDC = nullptr;
@@ -56,14 +57,14 @@ bool CDisplayCache::Resize(int nWidth, int nHeight) {
     m_hDC = CreateCompatibleDC(nullptr);
     m_hSourceDC = CreateCompatibleDC(nullptr);
     m_hBitmap = MakeBitmap(nWidth, nHeight, &pPixels);
-    if (m_hDC == nullptr || m_hSourceDC == nullptr || m_hBitmap == nullptr) {
+    m_pagePixels = platform::MakePixels(static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight));
+    if (m_hDC == nullptr || m_hSourceDC == nullptr || m_hBitmap == nullptr || m_pagePixels == nullptr) {
         Release();
         return false;
     }
     m_hFormer = SelectObject(m_hDC, m_hBitmap);
     m_target = {pPixels, nWidth, nHeight, nWidth};
-    m_pagePixels.resize(static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight));
-    m_page = {m_pagePixels.data(), nWidth, nHeight, nWidth};
+    m_page = {m_pagePixels.get(), nWidth, nHeight, nWidth};
     m_stale.Add(All());
     return true;
 }

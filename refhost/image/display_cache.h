@@ -8,6 +8,7 @@
 #include "image/changed_area.h"
 #include "image/page_composer.h"
 #include "image/view_host.h"
+#include "platform/pixels.h"
 
 /// A 32-bit bitmap of the client's size, kept selected in a context of its own. Beside it stands the page's
 /// picture without marks: only what changed on the page is composed anew, the rest is copied from there.
@@ -59,7 +60,7 @@ class CDisplayCache {
     HBITMAP m_hBitmap = nullptr;
     HGDIOBJ m_hFormer = nullptr; ///< what stood in the context before the bitmap
     CPageComposer m_composer;
-    std::vector<std::uint32_t> m_pagePixels;
+    platform::PixelArray m_pagePixels;
     PixelTarget m_page;
     Source m_source;
     CChangedArea m_stale; ///< client pixels where the picture without marks is out of date

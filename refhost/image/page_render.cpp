@@ -1,7 +1,6 @@
 #include "image/page_render.h"
 
 #include <cmath>
-#include <new>
 
 #include "image/page_composer.h"
 
@@ -23,15 +22,13 @@ bool RenderPage(const CImgDoc& doc, double dScale, RenderedPage& page) {
     const int nHeight = Side(doc.PageHeight(), dScale);
     if (nWidth == 0 || nHeight == 0 || static_cast<double>(nWidth) * nHeight > MaxPixels)
         return false;
-    try {
-        page.pixels.resize(static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight));
-    } catch (const std::bad_alloc&) {
+    page.pixels = platform::MakePixels(static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight));
+    if (page.pixels == nullptr)
         return false;
-    }
     page.width = nWidth;
     page.height = nHeight;
     CPageComposer composer;
-    composer.Compose(&doc, {dScale, {0, 0}}, {page.pixels.data(), nWidth, nHeight, nWidth},
+    composer.Compose(&doc, {dScale, {0, 0}}, {page.pixels.get(), nWidth, nHeight, nWidth},
                      {0, 0, nWidth, nHeight});
     return true;
 }

@@ -110,6 +110,7 @@ TEST(HostileLine, IsRefusedInOneReadableLine) {
         {"bus \"a\\r\\nb\"", "t.scn:1: remove, restore or add is unknown: a??b; usage: "},
         {"exclude A" + tails, "t.scn:1: no node is called A.frame.frame"},
         {"module load\nfault tool\nbus add 38", "t.scn:3: no memory for the receiver\n"},
+        {"module load\nfault buffer\nbase #FF0000", "t.scn:3: no memory for the base image\n"},
         {"dump [A]B", "t.scn:1: a blank is missing behind a list\n"},
     };
     for (const RefusedRow& row : rows) {
@@ -128,10 +129,10 @@ TEST(HostileLine, LongMessageIsCut) {
 }
 
 TEST(HostileNumber, OutOfRangeIsRefused) {
-    for (const char* pszLine :
-         {"drag 0 0 32768 0", "down -32768 0", "pointer 0 40000", "page 32767 32767", "view 20000 20000",
-          "page 10000 10000 zoom 3", "picture A #FF0000 0 0 32767 32767",
-          "page 100 100\nrender r.png scale 300"}) {
+    for (const char* pszLine : {"drag 0 0 32768 0", "down -32768 0", "pointer 0 40000", "page 32767 32767",
+                                "view 20000 20000", "page 10000 10000 zoom 3",
+                                "picture A #FF0000 0 0 32767 32767", "page 100 100\nrender r.png scale 300",
+                                "page 32767 4096", "page 1000 1000 zoom 11", "view 32767 4000"}) {
         EXPECT_EQ(RunLines(pszLine).status, 2) << pszLine;
     }
 }

@@ -193,7 +193,8 @@ TEST(PageRender, IsThePageAtTheScaleTruncated) {
 
     EXPECT_EQ(7, page.width);
     EXPECT_EQ(4, page.height);
-    EXPECT_EQ(std::vector<std::uint32_t>(28, 0xFF0000), page.pixels);
+    EXPECT_EQ(std::vector<std::uint32_t>(28, 0xFF0000),
+              std::vector<std::uint32_t>(page.pixels.get(), page.pixels.get() + 28));
     EXPECT_FALSE(RenderPage(doc, 0.1, page));
     EXPECT_FALSE(RenderPage(doc, 1e9, page));
     EXPECT_FALSE(RenderPage(doc, -1.0, page));

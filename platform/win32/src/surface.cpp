@@ -3,7 +3,6 @@
 #include "window_tree.h"
 
 #include <algorithm>
-#include <new>
 #include <utility>
 
 namespace win32 {
@@ -27,17 +26,17 @@ bool SizeSurface(Window& window, int oldWidth, int oldHeight) {
     if (window.pixels && window.Width() == oldWidth && window.Height() == oldHeight) {
         return true;
     }
-    std::unique_ptr<DWORD[]> sized;
+    platform::PixelArray sized;
     if (PixelCount(window) > LargestPixelCount) {
         return false;
     }
     if (PixelCount(window) > 0) {
-        sized.reset(new (std::nothrow) DWORD[PixelCount(window)]());
+        sized = platform::MakePixels(PixelCount(window));
         if (!sized) {
             return false;
         }
     }
-    const std::unique_ptr<DWORD[]> before = std::exchange(window.pixels, std::move(sized));
+    const platform::PixelArray before = std::exchange(window.pixels, std::move(sized));
     if (before && window.pixels) {
         CopyCommon(before.get(), oldWidth, oldHeight, window);
     }

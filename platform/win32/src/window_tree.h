@@ -5,6 +5,8 @@
 
 #include "handles.h"
 
+#include "platform/pixels.h"
+
 #include <string>
 
 namespace win32 {
@@ -51,7 +53,7 @@ struct Window {
     RECT place{};  // A child's in its parent's client pixels, any other's on the screen.
     RECT update{}; // Client pixels; the bounding rectangle of what is to be painted.
     bool eraseUpdate = false;
-    std::unique_ptr<DWORD[]> pixels; // A top-level window's alone, as many as its place has.
+    platform::PixelArray pixels; // A top-level window's alone, as many as its place has.
 
     int Width() const { return place.right - place.left; }
     int Height() const { return place.bottom - place.top; }

@@ -18,7 +18,7 @@ std::unique_ptr<Bitmap> MakeBitmap(int width, int height, Rows rows) {
     const size_t count = static_cast<size_t>(width) * static_cast<size_t>(height);
     std::unique_ptr<Bitmap> bitmap(count <= LargestPixelCount ? new (std::nothrow) Bitmap : nullptr);
     if (bitmap) {
-        bitmap->pixels.reset(new (std::nothrow) DWORD[count]());
+        bitmap->pixels = platform::MakePixels(count);
     }
     if (!bitmap || !bitmap->pixels) {
         return nullptr;

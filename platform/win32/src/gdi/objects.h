@@ -4,6 +4,8 @@
 
 #include "handles.h"
 
+#include "platform/pixels.h"
+
 namespace win32 {
 
 enum class GdiType { Pen, Brush, Bitmap, Font };
@@ -51,7 +53,7 @@ struct Bitmap : GdiObject {
     DWORD* firstRow = nullptr;
     int bitCount = 32;    // 1, 24 or 32, as it is known outside.
     bool section = false; // Its pixels are known outside.
-    std::unique_ptr<DWORD[]> pixels;
+    platform::PixelArray pixels;
 };
 
 extern CHandleTable<GdiObject, HandleKind::GdiObject> g_objects;
