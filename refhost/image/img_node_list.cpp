@@ -177,8 +177,10 @@ void CImgNodeList::DropAll() {
 }
 
 void CImgNodeList::DropNode(CImgNode& node) {
-    while (FirstPlace(node) != nullptr)
+    while (FirstPlace(node) != nullptr) {
+        Record("RemoveAt", &node);
         Drop(FirstPlace(node));
+    }
 }
 
 POSITION CImgNodeList::KeyedBefore(POSITION position) const {

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "host/vor_view.h"
 #include "image/node_host.h"
 #include "platform/observer.h"
 
@@ -20,11 +21,14 @@ State& Record() {
     return state;
 }
 
-/// Turns what windows and the wait cursor are told into rows.
+/// The other windows are the tools' own.
+bool IsView(HWND window) { return dynamic_cast<CVorView*>(CWnd::FromHandlePermanent(window)) != nullptr; }
+
+/// Turns what the view and the wait cursor are told into rows.
 class CWindowObserver : public platform::IObserver {
   public:
-    void OnInvalidate(HWND /*window*/, const RECT* rect, BOOL erase) override {
-        if (!IsOn())
+    void OnInvalidate(HWND window, const RECT* rect, BOOL erase) override {
+        if (!IsOn() || !IsView(window))
             return;
         if (rect != nullptr)
             Call("view", "InvalidateRect", {*rect, static_cast<long long>(erase)});

@@ -150,7 +150,7 @@ TEST_F(NodeList, RaisingByAddingBeforeRemovingKeepsTheHitOrder) {
     EXPECT_EQ((std::vector<CImgNode*>{pBack, pFront, pMiddle}), hits);
 }
 
-TEST_F(NodeList, RecordsTheModulesCallsButNotTheHostsCleaning) {
+TEST_F(NodeList, RecordsCallsAndThatANodeOnThePageGoes) {
     trace::TurnOn(true);
     CImgNode* pA = new CImgNode(&doc);
     CImgNode* pB = new CImgNode(&doc);
@@ -162,7 +162,8 @@ TEST_F(NodeList, RecordsTheModulesCallsButNotTheHostsCleaning) {
     trace::TurnOn(false);
 
     const std::vector<trace::Row> rows = trace::Take();
-    EXPECT_EQ("doc:objects.AddHead doc:objects.InsertAfter doc:selection.AddTail doc:selection.RemoveAt ",
+    EXPECT_EQ("doc:objects.AddHead doc:objects.InsertAfter doc:selection.AddTail doc:selection.RemoveAt "
+              "doc:objects.RemoveAt ",
               OpsOf(rows));
     ASSERT_EQ(2u, rows[1].args.size());
     EXPECT_EQ(pA->m_nId, std::get<trace::Node>(rows[1].args[1]).id);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "desk/desk.h"
 #include "platform/observer.h"
 #include "refhost_help.h"
 #include "trace/trace.h"
@@ -61,13 +62,20 @@ TEST_F(Trace, ANodeIsKeptByItsIdAndOneThatIsNotThereIsZero) {
     EXPECT_EQ(0u, std::get<trace::Node>(rows[0].args[1]).id);
 }
 
-TEST_F(Trace, WindowsAndTheWaitCursorReportThroughTheObserver) {
+TEST_F(Trace, TheViewAndTheWaitCursorReportThroughTheObserver) {
     const RECT rect{1, 2, 3, 4};
+    CDesk desk;
+    ASSERT_TRUE(desk.CreateView(nullptr));
+    HWND hView = desk.View()->m_hWnd;
+    CWnd other;
+    other.CreateEx(0, nullptr, "", WS_CHILD, 0, 0, 5, 5, hView, nullptr);
+    trace::Take();
     platform::IObserver* pObserver = platform::GetObserver();
     ASSERT_NE(nullptr, pObserver);
 
-    pObserver->OnInvalidate(nullptr, &rect, TRUE);
-    pObserver->OnInvalidate(nullptr, nullptr, FALSE);
+    pObserver->OnInvalidate(hView, &rect, TRUE);
+    pObserver->OnInvalidate(other.m_hWnd, &rect, TRUE);
+    pObserver->OnInvalidate(hView, nullptr, FALSE);
     pObserver->OnWaitCursor(1);
     pObserver->OnWaitCursor(-1);
 
