@@ -98,10 +98,9 @@ TEST(CommandLine, RenderWritesThePageAlone) {
 
 TEST(CommandLine, OutputThatIsNotWrittenIsStatusTwo) {
     std::istringstream in("echo x\n");
-    std::ostream full(nullptr);
     std::ostringstream err;
+    std::ostream full(nullptr);
     const char* const argv[] = {"pradix", "run", "-"};
-
     EXPECT_EQ(RunProgram(3, argv, in, full, err), 2);
     EXPECT_EQ(err.str(), "pradix: the output cannot be written\n");
 }

@@ -82,17 +82,12 @@ TEST(Dump, LinksToNodesThatAreGoneOrAreNotTheNodesOwnAreNull) {
     CImgNode* pOwner = stage.AddPlaceholder("P", 10, 20, 30, 40);
     CImgNode* pCopy = pOwner->Duplicate();
     pCopy->m_pFrameNode = pOwner->m_pFrameNode;
-    pCopy->m_pShadowNode = new CImgNode(nullptr);
-    delete pCopy->m_pShadowNode;
-    pOwner->m_pShadowNode = pCopy->m_pShadowNode;
+    pOwner->m_pShadowNode = pCopy->m_pShadowNode = new CImgNode(nullptr);
+    delete pOwner->m_pShadowNode;
     Json json;
-
     ASSERT_TRUE(Dump(stage, "nodes", Records::Keep, json));
-    for (const auto& [nNode, frame] : {std::pair(0, Json("P.frame")), std::pair(2, Json(nullptr))}) {
-        EXPECT_EQ(json[nNode]["frame"], frame);
-        EXPECT_EQ(json[nNode]["shadow"], nullptr);
-    }
-    EXPECT_EQ(stage.Node("P.shadow"), nullptr);
+    EXPECT_TRUE(json[0]["frame"] == "P.frame" && json[2]["frame"].is_null());
+    EXPECT_TRUE(json[0]["shadow"].is_null() && json[2]["shadow"].is_null() && !stage.Node("P.shadow"));
 }
 
 TEST(Dump, InputTellsFocusKeysQueueAndTimers) {

@@ -1,27 +1,16 @@
 #include "desk/desk.h"
 
-#include <new>
-
 #include <gtest/gtest.h>
 
-#include "refhost_help.h"
-#include "short_memory.h"
+extern int g_nAllocationsLeft;
 
-TEST(DeskStart, WithoutItsReceiversThereIsNoDesk) {
-    for (unsigned nMade = 0; nMade < 3; ++nMade) {
-        const refhost_help::CFaultScope fault("tool", true, nMade);
-        EXPECT_THROW(CDesk{}, std::bad_alloc) << nMade;
+TEST(Desk, StartsOrTellsThatItCannotWhicheverAllocationFails) {
+    for (int nAllocation = 400; nAllocation >= 0; --nAllocation) {
+        g_nAllocationsLeft = nAllocation;
+        try {
+            CDesk desk;
+            const bool bStarted = desk.CreateView(nullptr) && desk.NewPage(10, 10, 1.0);
+            EXPECT_EQ(bStarted || nAllocation == 400, desk.View() && desk.Document()) << nAllocation;
+        } catch (const std::bad_alloc&) {}
     }
-}
-
-TEST(DeskPage, WithoutADocumentTheFormerPageStays) {
-    CDesk desk;
-    ASSERT_TRUE(desk.NewPage(10, 20, 1.0));
-    const CVorDoc* pFormer = desk.Document();
-    {
-        const CAllocationsScope none(0);
-        EXPECT_FALSE(desk.NewPage(30, 40, 1.0));
-        EXPECT_FALSE(desk.CreateView(nullptr));
-    }
-    EXPECT_EQ(desk.Document(), pFormer);
 }

@@ -66,16 +66,12 @@ TEST_F(Trace, TheViewAndTheWaitCursorReportThroughTheObserver) {
     const RECT rect{1, 2, 3, 4};
     CDesk desk;
     ASSERT_TRUE(desk.CreateView(nullptr));
-    HWND hView = desk.View()->m_hWnd;
-    CWnd other;
-    other.CreateEx(0, nullptr, "", WS_CHILD, 0, 0, 5, 5, hView, nullptr);
-    trace::Take();
     platform::IObserver* pObserver = platform::GetObserver();
     ASSERT_NE(nullptr, pObserver);
 
-    pObserver->OnInvalidate(hView, &rect, TRUE);
-    pObserver->OnInvalidate(other.m_hWnd, &rect, TRUE);
-    pObserver->OnInvalidate(hView, nullptr, FALSE);
+    pObserver->OnInvalidate(*desk.View(), &rect, TRUE);
+    pObserver->OnInvalidate(nullptr, &rect, TRUE);
+    pObserver->OnInvalidate(*desk.View(), nullptr, FALSE);
     pObserver->OnWaitCursor(1);
     pObserver->OnWaitCursor(-1);
 
