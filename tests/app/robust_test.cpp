@@ -98,17 +98,15 @@ struct RefusedRow {
 };
 
 TEST(HostileLine, IsRefusedInOneReadableLine) {
-    std::string tails = ".frame";
-    while (tails.size() < 300'000) {
-        tails += tails;
-    }
+    std::ostringstream tails;
+    std::fill_n(std::ostream_iterator<std::string>(tails), 50'000, ".frame");
     const RefusedRow rows[] = {
         {std::string(10'000'000, 'a'), "t.scn:1: the line is longer than a mebibyte\n"},
         {"echo " + std::string(100'000, '['), "t.scn:1: lists stand too deep in each other\n"},
         {std::string("no\0such", 7), "t.scn:1: unknown command: no?such\n"},
         {"select \"a\\nb\"", "t.scn:1: NAME is no name; usage: select NAME...|none\n"},
         {"bus \"a\\r\\nb\"", "t.scn:1: remove, restore or add is unknown: a??b; usage: "},
-        {"exclude A" + tails, "t.scn:1: no node is called A.frame.frame"},
+        {"exclude A" + tails.str(), "t.scn:1: no node is called A.frame.frame"},
         {"module load\nfault tool\nbus add 38", "t.scn:3: no memory for the receiver\n"},
         {"module load\nfault buffer\nbase #FF0000", "t.scn:3: no memory for the base image\n"},
         {"dump [A]B", "t.scn:1: a blank is missing behind a list\n"},
