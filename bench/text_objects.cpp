@@ -131,7 +131,7 @@ void CTextStage::Session(int nObjects, int nInFront, const std::string& suffix) 
         m_stage.EndEditor();
         m_stage.Paint();
         const double dEnd = measure::NowUs();
-        Check(m_stage.Editor() == nullptr && m_stage.SelectedCount() == 1, "the commit");
+        Check(!m_stage.Editor() && m_stage.SelectedCount() == 1, "the commit");
         if (i >= 0) {
             opened.push_back(dOpen - dStart);
             committed.push_back(dEnd - dOpen);

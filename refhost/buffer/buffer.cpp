@@ -67,22 +67,25 @@ class CHandleTable {
 
 std::uint32_t CHandleTable::TakeSlot() {
     if (m_nFirstFree == NoSlot) {
-        if (m_entries.size() >= NoSlot)
+        if (m_entries.size() >= NoSlot) {
             return NoSlot;
+        }
         m_entries.push_back(FreeEntry(1, NoSlot));
         return static_cast<std::uint32_t>(m_entries.size() - 1);
     }
     const std::uint32_t nSlot = m_nFirstFree;
     m_nFirstFree = NextOf(m_entries[nSlot]);
-    if (m_nFirstFree == NoSlot)
+    if (m_nFirstFree == NoSlot) {
         m_nLastFree = NoSlot;
+    }
     return nSlot;
 }
 
 HBUF32 CHandleTable::Add(Header* pHeader) {
     const std::uint32_t nSlot = TakeSlot();
-    if (nSlot == NoSlot)
+    if (nSlot == NoSlot) {
         return 0;
+    }
     pHeader->nGeneration = GenerationOf(m_entries[nSlot]);
     m_entries[nSlot] = reinterpret_cast<std::uintptr_t>(pHeader);
     ++m_nCount;
@@ -92,8 +95,9 @@ HBUF32 CHandleTable::Add(Header* pHeader) {
 Header* CHandleTable::Find(HBUF32 hBuf) const {
     const std::uint32_t nHandle = static_cast<std::uint32_t>(hBuf);
     const std::uint32_t nSlot = nHandle & SlotMask;
-    if (nSlot >= m_entries.size() || (m_entries[nSlot] & 1) != 0)
+    if (nSlot >= m_entries.size() || (m_entries[nSlot] & 1) != 0) {
         return nullptr;
+    }
     Header* pHeader = reinterpret_cast<Header*>(static_cast<std::uintptr_t>(m_entries[nSlot]));
     return pHeader->nGeneration == nHandle >> SlotBits ? pHeader : nullptr;
 }
@@ -103,10 +107,11 @@ void CHandleTable::Remove(HBUF32 hBuf) {
     const std::uint32_t nSlot = static_cast<std::uint32_t>(hBuf) & SlotMask;
     const std::uint32_t nGeneration = pHeader->nGeneration == LastGeneration ? 1 : pHeader->nGeneration + 1;
     m_entries[nSlot] = FreeEntry(nGeneration, NoSlot);
-    if (m_nLastFree == NoSlot)
+    if (m_nLastFree == NoSlot) {
         m_nFirstFree = nSlot;
-    else
+    } else {
         m_entries[m_nLastFree] = FreeEntry(GenerationOf(m_entries[m_nLastFree]), nSlot);
+    }
     m_nLastFree = nSlot;
     --m_nCount;
 }
@@ -125,11 +130,12 @@ bool IsSize(int nWidth, int nHeight) {
 /// A buffer's memory, cleared or not; null when there is none, or no room for more pixels.
 Header* Allocate(int nUnit, int nWidth, int nHeight, bool bClear) {
     Header header{0, 0, static_cast<std::int16_t>(nWidth), static_cast<std::int16_t>(nHeight), nUnit};
-    if (!platform::TakePixelBytes(ByteCount(header)))
+    if (!platform::TakePixelBytes(ByteCount(header))) {
         return nullptr;
+    }
     const std::size_t nBytes = sizeof(Header) + ByteCount(header) + buffer_host::ReadablePadding;
     void* pMemory = bClear ? std::calloc(1, nBytes) : std::malloc(nBytes);
-    if (pMemory == nullptr) {
+    if (!pMemory) {
         platform::ReturnPixelBytes(ByteCount(header));
         return nullptr;
     }
@@ -145,32 +151,38 @@ void Release(Header* pHeader) {
 }
 
 HBUF32 Enter(Header* pHeader) {
-    const HBUF32 hBuf = pHeader != nullptr ? Table().Add(pHeader) : 0;
-    if (hBuf == 0 && pHeader != nullptr)
+    const HBUF32 hBuf = pHeader ? Table().Add(pHeader) : 0;
+    if (hBuf == 0 && pHeader) {
         Release(pHeader);
+    }
     return hBuf;
 }
 
 } // namespace
 
 int buf32Alloc(HBUF32* phBuf, int nBits, int nWidth, int nHeight, int nFill, int* pReserved) {
-    if (pReserved != nullptr)
+    if (pReserved) {
         *pReserved = 0;
-    if (phBuf == nullptr)
+    }
+    if (!phBuf) {
         return 0;
+    }
     *phBuf = 0;
-    if ((nBits != 8 && nBits != 24 && nBits != 32) || !IsSize(nWidth, nHeight))
+    if ((nBits != 8 && nBits != 24 && nBits != 32) || !IsSize(nWidth, nHeight)) {
         return 0;
-    if (platform::FaultTrips("buffer"))
+    }
+    if (platform::FaultTrips("buffer")) {
         return 0;
+    }
     *phBuf = Enter(Allocate(nBits / 8, nWidth, nHeight, nFill == 1));
     return *phBuf != 0;
 }
 
 void* buf32Lock(HBUF32 hBuf, int /*nMode*/) {
     Header* pHeader = Table().Find(hBuf);
-    if (pHeader == nullptr)
+    if (!pHeader) {
         return nullptr;
+    }
     ++pHeader->nLocks;
     ++g_nLockCount;
     return Pixels(pHeader);
@@ -178,16 +190,18 @@ void* buf32Lock(HBUF32 hBuf, int /*nMode*/) {
 
 int buf32Unlock(HBUF32 hBuf) {
     Header* pHeader = Table().Find(hBuf);
-    if (pHeader == nullptr || pHeader->nLocks == 0)
+    if (!pHeader || pHeader->nLocks == 0) {
         return 0;
+    }
     --pHeader->nLocks;
     return 1;
 }
 
 int buf32Free(HBUF32 hBuf) {
     Header* pHeader = Table().Find(hBuf);
-    if (pHeader == nullptr)
+    if (!pHeader) {
         return 0;
+    }
     Table().Remove(hBuf);
     Release(pHeader);
     return 1;
@@ -195,24 +209,30 @@ int buf32Free(HBUF32 hBuf) {
 
 HBUF32 buf32DupBuf(HBUF32 hBuf) {
     Header* pHeader = Table().Find(hBuf);
-    if (pHeader == nullptr || platform::FaultTrips("buffer"))
+    if (!pHeader || platform::FaultTrips("buffer")) {
         return 0;
+    }
     Header* pCopy = Allocate(pHeader->nUnit, pHeader->nWidth, pHeader->nHeight, false);
-    if (pCopy != nullptr)
+    if (pCopy) {
         std::memcpy(Pixels(pCopy), Pixels(pHeader), ByteCount(*pHeader));
+    }
     return Enter(pCopy);
 }
 
 int buf32GetWHU(HBUF32 hBuf, int* pnWidth, int* pnHeight, int* pnUnit) {
     const Header* pHeader = Table().Find(hBuf);
-    if (pHeader == nullptr)
+    if (!pHeader) {
         return 0;
-    if (pnWidth != nullptr)
+    }
+    if (pnWidth) {
         *pnWidth = pHeader->nWidth;
-    if (pnHeight != nullptr)
+    }
+    if (pnHeight) {
         *pnHeight = pHeader->nHeight;
-    if (pnUnit != nullptr)
+    }
+    if (pnUnit) {
         *pnUnit = pHeader->nUnit;
+    }
     return 1;
 }
 
@@ -220,8 +240,9 @@ namespace buffer_host {
 
 View Look(HBUF32 hBuf) {
     Header* pHeader = Table().Find(hBuf);
-    if (pHeader == nullptr)
+    if (!pHeader) {
         return {};
+    }
     return {Pixels(pHeader), pHeader->nWidth, pHeader->nHeight, pHeader->nUnit};
 }
 

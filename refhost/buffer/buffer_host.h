@@ -49,8 +49,9 @@ class CBufferPtr {
     explicit operator bool() const { return m_hBuf != 0; }
     [[nodiscard]] HBUF32 Release() { return std::exchange(m_hBuf, 0); }
     void Reset(HBUF32 hBuf = 0) {
-        if (m_hBuf != 0 && m_hBuf != hBuf)
+        if (m_hBuf != 0 && m_hBuf != hBuf) {
             buf32Free(m_hBuf);
+        }
         m_hBuf = hBuf;
     }
 

@@ -15,12 +15,14 @@ constexpr int BytesPerPixel = 3;
 class CBitmapRows {
   public:
     explicit CBitmapRows(HBITMAP hBitmap) {
-        if (GetObjectA(hBitmap, sizeof(m_bitmap), &m_bitmap) == 0)
+        if (GetObjectA(hBitmap, sizeof(m_bitmap), &m_bitmap) == 0) {
             return;
+        }
         const LONG nBytes = m_bitmap.bmWidthBytes * m_bitmap.bmHeight;
         m_bits.reset(new (std::nothrow) std::uint8_t[static_cast<std::size_t>(nBytes)]);
-        if (m_bits && GetBitmapBits(hBitmap, nBytes, m_bits.get()) != nBytes)
+        if (m_bits && GetBitmapBits(hBitmap, nBytes, m_bits.get()) != nBytes) {
             m_bits.reset();
+        }
     }
 
     explicit operator bool() const { return m_bits != nullptr; }
@@ -33,8 +35,9 @@ class CBitmapRows {
             m_bits.get() + static_cast<std::ptrdiff_t>(nRow) * m_bitmap.bmWidthBytes;
         const int nUnit = m_bitmap.bmBitsPixel / 8;
         for (int x = 0; x < Width(); ++x, pOut += BytesPerPixel) {
-            for (int i = 0; i < BytesPerPixel; ++i)
+            for (int i = 0; i < BytesPerPixel; ++i) {
                 pOut[i] = nUnit == 0 ? BitAt(pRow, x) : pRow[x * nUnit + i];
+            }
         }
     }
 
@@ -50,14 +53,17 @@ class CBitmapRows {
 } // namespace
 
 int cvt32DDBToBuf(HBITMAP hBitmap, HBUF32* phBuf, int) {
-    if (!phBuf)
+    if (!phBuf) {
         return 0;
+    }
     *phBuf = 0;
     const CBitmapRows rows(hBitmap);
-    if (!rows || !buf32Alloc(phBuf, ColorBits, rows.Width(), rows.Height(), 0, nullptr))
+    if (!rows || !buf32Alloc(phBuf, ColorBits, rows.Width(), rows.Height(), 0, nullptr)) {
         return 0;
+    }
     const buffer_host::View view = buffer_host::Look(*phBuf);
-    for (int y = 0; y < view.height; ++y)
+    for (int y = 0; y < view.height; ++y) {
         rows.CopyRow(y, view.Row(y));
+    }
     return 1;
 }

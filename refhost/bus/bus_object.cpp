@@ -6,30 +6,37 @@
 
 int CBusObject::IsKindOf(const GUID& category, int nKind, int* pResult, int* pExtra) {
     const auto matches = [&](const KindRow& row) { return row.nKind == nKind && row.category == category; };
-    if (std::none_of(m_kinds.begin(), m_kinds.end(), matches))
+    if (std::none_of(m_kinds.begin(), m_kinds.end(), matches)) {
         return CListenerObject::IsKindOf(category, nKind, pResult, pExtra);
-    if (pExtra != nullptr)
+    }
+    if (pExtra) {
         *pExtra = 0;
-    if (pResult != nullptr)
+    }
+    if (pResult) {
         *pResult = 1;
+    }
     return 1;
 }
 
 int CBusObject::QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) {
     const auto matches = [&](const InterfaceRow& row) { return row.id == iid; };
     const auto row = std::find_if(m_interfaces.begin(), m_interfaces.end(), matches);
-    if (row == m_interfaces.end() || Lacks(iid))
+    if (row == m_interfaces.end() || Lacks(iid)) {
         return CListenerObject::QueryInterface(iid, ppInterface, pExtra);
-    if (pExtra != nullptr)
+    }
+    if (pExtra) {
         *pExtra = 0;
-    if (ppInterface != nullptr)
+    }
+    if (ppInterface) {
         *ppInterface = row->pInterface;
+    }
     return 1;
 }
 
 bool CBusObject::Lacks(const GUID& iid) const {
-    if (!bus::HasInterfaceMasks())
+    if (!bus::HasInterfaceMasks()) {
         return false;
+    }
     const auto masked = [&](const KindRow& row) {
         return bus::IsInterfaceMasked(row.category, row.nKind, iid);
     };

@@ -36,8 +36,9 @@ bool Holds(const std::vector<T>& masks, const T& mask) {
 
 template <class T>
 void AddOnce(std::vector<T>& masks, const T& mask) {
-    if (!Holds(masks, mask))
+    if (!Holds(masks, mask)) {
         masks.push_back(mask);
+    }
 }
 
 } // namespace

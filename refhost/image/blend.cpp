@@ -25,8 +25,9 @@ void MixChunk(std::uint32_t* pTarget, const std::uint8_t* pSource, const std::ui
     std::uint32_t source[ChunkPixels];
     std::uint32_t mask[ChunkPixels];
     CopyRow(source, pSource, nCount);
-    for (int i = 0; i < nCount; ++i)
+    for (int i = 0; i < nCount; ++i) {
         mask[i] = pMask[i] * 0x01010101U;
+    }
     const std::uint8_t* pFrom = reinterpret_cast<const std::uint8_t*>(source);
     const std::uint8_t* pShare = reinterpret_cast<const std::uint8_t*>(mask);
     std::uint8_t* pTo = reinterpret_cast<std::uint8_t*>(pTarget);
@@ -38,15 +39,17 @@ void MixChunk(std::uint32_t* pTarget, const std::uint8_t* pSource, const std::ui
 }
 
 void MixRow(std::uint32_t* pTarget, const std::uint8_t* pSource, const std::uint8_t* pMask, int nCount) {
-    for (int at = 0; at < nCount; at += ChunkPixels)
+    for (int at = 0; at < nCount; at += ChunkPixels) {
         MixChunk(pTarget + at, pSource + at * 3, pMask + at, std::min(ChunkPixels, nCount - at));
+    }
 }
 
 /// Whether a machine word of one plain value starts at `at`.
 bool IsPlainAt(const std::uint8_t* pMask, int at, int nCount) {
     std::uint64_t word = 1;
-    if (at + 8 <= nCount)
+    if (at + 8 <= nCount) {
         std::memcpy(&word, pMask + at, sizeof word);
+    }
     return word == 0 || word == ~std::uint64_t{0};
 }
 
@@ -59,10 +62,12 @@ int RunEnd(const std::uint8_t* pMask, int at, int nCount, bool bPlain) {
         while (++at < nCount && !IsPlainAt(pMask, at, nCount)) {}
         return at;
     }
-    while (IsPlainAt(pMask, at, nCount) && pMask[at] == first)
+    while (IsPlainAt(pMask, at, nCount) && pMask[at] == first) {
         at += 8;
-    while (at < nCount && pMask[at] == first)
+    }
+    while (at < nCount && pMask[at] == first) {
         ++at;
+    }
     return at;
 }
 
@@ -81,42 +86,47 @@ void CopyRow(std::uint32_t* pTarget, const std::uint8_t* pSource, int nCount) {
         _mm_storeu_si128(reinterpret_cast<__m128i*>(pTarget + i), pixels);
     }
 #endif
-    for (; i < nCount; ++i)
+    for (; i < nCount; ++i) {
         pTarget[i] = PixelAt(pSource + i * 3);
+    }
 }
 
 void MaskRow(std::uint32_t* pTarget, const std::uint8_t* pSource, const std::uint8_t* pMask, int nCount) {
     for (int at = 0, end = 0; at < nCount; at = end) {
         const bool bPlain = IsPlainAt(pMask, at, nCount);
         end = RunEnd(pMask, at, nCount, bPlain);
-        if (!bPlain)
+        if (!bPlain) {
             MixRow(pTarget + at, pSource + at * 3, pMask + at, end - at);
-        else if (pMask[at] == 255)
+        } else if (pMask[at] == 255) {
             CopyRow(pTarget + at, pSource + at * 3, end - at);
+        }
     }
 }
 
 void FillRow(std::uint32_t* pTarget, std::uint32_t pixel, int nCount) { std::fill_n(pTarget, nCount, pixel); }
 
 void ApplyTable(const Table& table, const std::uint8_t* pIn, std::uint8_t* pOut, int nBytes) {
-    for (int i = 0; i < nBytes; ++i)
+    for (int i = 0; i < nBytes; ++i) {
         pOut[i] = table[pIn[i]];
+    }
 }
 
 Table ToneTable(int nBrightness, int nContrast) {
     const int nShift = std::clamp(nBrightness, -100, 100) * 255 / 100;
     const int nScale = 100 + std::clamp(nContrast, -100, 100);
     Table table;
-    for (int v = 0; v < 256; ++v)
+    for (int v = 0; v < 256; ++v) {
         table[v] = static_cast<std::uint8_t>(std::clamp((v - 128) * nScale / 100 + 128 + nShift, 0, 255));
+    }
     return table;
 }
 
 Table OpacityTable(int nTransparency) {
     const int nShare = 100 - std::clamp(nTransparency, 0, 100);
     Table table;
-    for (int mask = 0; mask < 256; ++mask)
+    for (int mask = 0; mask < 256; ++mask) {
         table[mask] = static_cast<std::uint8_t>(mask * nShare / 100);
+    }
     return table;
 }
 

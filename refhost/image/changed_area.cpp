@@ -23,8 +23,9 @@ bool Holds(const RECT& outer, const RECT& inner) {
 } // namespace
 
 void CChangedArea::Add(const RECT& rect) {
-    if (rect.left >= rect.right || rect.top >= rect.bottom)
+    if (rect.left >= rect.right || rect.top >= rect.bottom) {
         return;
+    }
     for (RECT& known : m_rects) {
         const RECT joined = Joined(known, rect);
         if (AreaOf(joined) <= AreaOf(known) + AreaOf(rect)) {
@@ -33,11 +34,13 @@ void CChangedArea::Add(const RECT& rect) {
         }
     }
     m_rects.push_back(rect);
-    if (m_rects.size() <= MostRects)
+    if (m_rects.size() <= MostRects) {
         return;
+    }
     RECT all = m_rects.front();
-    for (const RECT& known : m_rects)
+    for (const RECT& known : m_rects) {
         all = Joined(all, known);
+    }
     m_rects.assign(1, all);
 }
 

@@ -31,14 +31,18 @@ double PixelsOf(const RECT& rect) {
 CDisplayCache::~CDisplayCache() { Release(); }
 
 void CDisplayCache::Release() {
-    if (m_hDC != nullptr && m_hFormer != nullptr)
+    if (m_hDC && m_hFormer) {
         SelectObject(m_hDC, m_hFormer);
-    if (m_hBitmap != nullptr)
+    }
+    if (m_hBitmap) {
         DeleteObject(m_hBitmap);
-    if (m_hDC != nullptr)
+    }
+    if (m_hDC) {
         DeleteDC(m_hDC);
-    if (m_hSourceDC != nullptr)
+    }
+    if (m_hSourceDC) {
         DeleteDC(m_hSourceDC);
+    }
     m_target = {};
     m_page = {};
     m_pagePixels.reset();
@@ -51,14 +55,15 @@ void CDisplayCache::Release() {
 
 bool CDisplayCache::Resize(int nWidth, int nHeight) {
     Release();
-    if (nWidth <= 0 || nHeight <= 0)
+    if (nWidth <= 0 || nHeight <= 0) {
         return true;
+    }
     std::uint32_t* pPixels = nullptr;
     m_hDC = CreateCompatibleDC(nullptr);
     m_hSourceDC = CreateCompatibleDC(nullptr);
     m_hBitmap = MakeBitmap(nWidth, nHeight, &pPixels);
     m_pagePixels = platform::MakePixels(static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight));
-    if (m_hDC == nullptr || m_hSourceDC == nullptr || m_hBitmap == nullptr || m_pagePixels == nullptr) {
+    if (!m_hDC || !m_hSourceDC || !m_hBitmap || !m_pagePixels) {
         Release();
         return false;
     }
@@ -77,37 +82,42 @@ bool CDisplayCache::Source::operator==(const Source& other) const {
 void CDisplayCache::Compose(const CImgDoc* pDoc, const ViewMap& map, const RECT& rcPart) {
     const RECT rcAll = All();
     RECT rcCopied;
-    if (IntersectRect(&rcCopied, &rcPart, &rcAll) == FALSE)
+    if (IntersectRect(&rcCopied, &rcPart, &rcAll) == FALSE) {
         return;
+    }
     GatherChanges(pDoc, map);
     ComposeChanged(pDoc, map, rcCopied);
     const std::size_t nBytes =
         static_cast<std::size_t>(rcCopied.right - rcCopied.left) * sizeof(std::uint32_t);
-    for (int y = rcCopied.top; y < rcCopied.bottom; ++y)
+    for (int y = rcCopied.top; y < rcCopied.bottom; ++y) {
         std::memcpy(m_target.Row(y) + rcCopied.left, m_page.Row(y) + rcCopied.left, nBytes);
+    }
 }
 
 void CDisplayCache::GatherChanges(const CImgDoc* pDoc, const ViewMap& map) {
-    const Source source{pDoc, pDoc != nullptr ? pDoc->GetBaseImage() : 0, buffer_host::LockCount(), map.dZoom,
+    const Source source{pDoc, pDoc ? pDoc->GetBaseImage() : 0, buffer_host::LockCount(), map.dZoom,
                         map.ptScroll};
     if (!(source == m_source)) {
         m_source = source;
         m_stale.Clear();
         m_stale.Add(All());
     }
-    if (pDoc == nullptr)
+    if (!pDoc) {
         return;
+    }
     CChangedArea& changed = CNodeBookkeeping::Changed(*pDoc);
     const RECT rcAll = All();
     for (const RECT& rect : changed.Rects()) {
         const RECT rcClient = map.RectToClient(rect);
         const RECT rcNear{-1, -1, rcAll.right + 1, rcAll.bottom + 1};
         RECT rcStale;
-        if (IntersectRect(&rcStale, &rcClient, &rcNear) == FALSE)
+        if (IntersectRect(&rcStale, &rcClient, &rcNear) == FALSE) {
             continue;
+        }
         InflateRect(&rcStale, 1, 1); // a scaled edge may round into the next pixel
-        if (IntersectRect(&rcStale, &rcStale, &rcAll) != FALSE)
+        if (IntersectRect(&rcStale, &rcStale, &rcAll) != FALSE) {
             m_stale.Add(rcStale);
+        }
     }
     changed.Clear();
 }
@@ -119,8 +129,9 @@ void CDisplayCache::ComposeChanged(const CImgDoc* pDoc, const ViewMap& map, cons
     double dPixels = 0;
     for (const RECT& stale : m_stale.Rects()) {
         RECT rcComposed;
-        if (IntersectRect(&rcComposed, &stale, &rcPart) != FALSE)
+        if (IntersectRect(&rcComposed, &stale, &rcPart) != FALSE) {
             dPixels += PixelsOf(rcComposed);
+        }
         UnionRect(&rcBounds, &rcBounds, &rcComposed);
     }
     if (dPixels >= PixelsOf(rcBounds)) {
@@ -128,8 +139,9 @@ void CDisplayCache::ComposeChanged(const CImgDoc* pDoc, const ViewMap& map, cons
     } else {
         for (const RECT& stale : m_stale.Rects()) {
             RECT rcComposed;
-            if (IntersectRect(&rcComposed, &stale, &rcPart) != FALSE)
+            if (IntersectRect(&rcComposed, &stale, &rcPart) != FALSE) {
                 m_composer.Compose(pDoc, map, m_page, rcComposed);
+            }
         }
     }
     m_stale.RemoveWithin(rcPart);
@@ -138,31 +150,37 @@ void CDisplayCache::ComposeChanged(const CImgDoc* pDoc, const ViewMap& map, cons
 HBITMAP CDisplayCache::CopyOut(const RECT& rect) const {
     const RECT rcAll{0, 0, m_target.width, m_target.height};
     RECT rcCopied;
-    if (IntersectRect(&rcCopied, &rect, &rcAll) == FALSE)
+    if (IntersectRect(&rcCopied, &rect, &rcAll) == FALSE) {
         return nullptr;
+    }
     const int nWidth = rcCopied.right - rcCopied.left;
     std::uint32_t* pOut = nullptr;
     HBITMAP hBitmap = MakeBitmap(nWidth, rcCopied.bottom - rcCopied.top, &pOut);
-    if (hBitmap == nullptr)
+    if (!hBitmap) {
         return nullptr;
-    for (int y = rcCopied.top; y < rcCopied.bottom; ++y, pOut += nWidth)
+    }
+    for (int y = rcCopied.top; y < rcCopied.bottom; ++y, pOut += nWidth) {
         std::memcpy(pOut, m_target.Row(y) + rcCopied.left, static_cast<std::size_t>(nWidth) * sizeof *pOut);
+    }
     return hBitmap;
 }
 
 void CDisplayCache::CopyIn(const POINT& point, HBITMAP hBitmap) {
     BITMAP bitmap;
-    if (m_hDC == nullptr || GetObjectA(hBitmap, sizeof bitmap, &bitmap) == 0)
+    if (!m_hDC || GetObjectA(hBitmap, sizeof bitmap, &bitmap) == 0) {
         return;
+    }
     const HGDIOBJ hFormer = SelectObject(m_hSourceDC, hBitmap);
-    if (hFormer == nullptr)
+    if (!hFormer) {
         return;
+    }
     BitBlt(m_hDC, point.x, point.y, bitmap.bmWidth, bitmap.bmHeight, m_hSourceDC, 0, 0, SRCCOPY);
     SelectObject(m_hSourceDC, hFormer);
 }
 
 void CDisplayCache::Paint(HDC hDC, const RECT& rect) const {
-    if (m_hDC != nullptr && IsRectEmpty(&rect) == FALSE)
+    if (m_hDC && IsRectEmpty(&rect) == FALSE) {
         BitBlt(hDC, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, m_hDC, rect.left,
                rect.top, SRCCOPY);
+    }
 }

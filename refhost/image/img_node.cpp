@@ -15,8 +15,9 @@ std::uint32_t NextId() {
 
 /// The union with a companion's bounds.
 void Join(CRect& rect, CImgNode* pCompanion) {
-    if (pCompanion == nullptr)
+    if (!pCompanion) {
         return;
+    }
     CRect rcCompanion;
     pCompanion->GetBoundRect(&rcCompanion);
     CRect rcJoined;
@@ -35,21 +36,24 @@ int Difference(int a, int b) {
 /// Truncated, and held within 32 bits.
 int Scaled(int nValue, double dScale) {
     const double dValue = nValue * dScale;
-    if (!(dValue > -2147483648.0))
+    if (!(dValue > -2147483648.0)) {
         return dValue <= -2147483648.0 ? INT32_MIN : 0;
+    }
     return dValue < 2147483648.0 ? static_cast<int>(dValue) : INT32_MAX;
 }
 
 void FreeBuffer(HBUF32& hBuf) {
-    if (hBuf != 0)
+    if (hBuf != 0) {
         buf32Free(hBuf);
+    }
     hBuf = 0;
 }
 
 /// Replaces an owned buffer; handing the same one in keeps it.
 void ReplaceBuffer(HBUF32& hOwned, HBUF32 hNew) {
-    if (hOwned != hNew)
+    if (hOwned != hNew) {
         FreeBuffer(hOwned);
+    }
     hOwned = hNew;
 }
 
@@ -71,13 +75,15 @@ CImgNode::~CImgNode() {
 }
 
 void CImgNode::GetBoundRect(CRect* pRect) {
-    if (pRect != nullptr)
+    if (pRect) {
         *pRect = CNodeBookkeeping::NodeRect(*this);
+    }
 }
 
 void CImgNode::GetBoundRectEx(CRect* pRect) {
-    if (pRect == nullptr)
+    if (!pRect) {
         return;
+    }
     GetBoundRect(pRect);
     Join(*pRect, m_pFrameNode);
     Join(*pRect, m_pShadowNode);
@@ -91,8 +97,9 @@ void CImgNode::Move(int nDx, int nDy) {
 
 CImgNode* CImgNode::Duplicate() {
     std::unique_ptr<CImgNode> pCopy(platform::FaultTrips("copy") ? nullptr : new CImgNode(m_pDoc));
-    if (pCopy == nullptr || !CNodeBookkeeping::CopyFields(*this, *pCopy))
+    if (!pCopy || !CNodeBookkeeping::CopyFields(*this, *pCopy)) {
         return nullptr;
+    }
     return pCopy.release();
 }
 
@@ -100,8 +107,9 @@ CImgNode* CImgNode::m_fnDuplicateImageNode() { return Duplicate(); }
 
 CImgNode* CImgNode::m_fnDuplicateImageNode(double dScale) {
     CImgNode* pCopy = m_fnDuplicateImageNode();
-    if (pCopy == nullptr)
+    if (!pCopy) {
         return nullptr;
+    }
     pCopy->m_tx.nX = Scaled(m_tx.nX, dScale);
     pCopy->m_tx.nY = Scaled(m_tx.nY, dScale);
     pCopy->m_tx.nWidth = Scaled(m_tx.nWidth, dScale);
@@ -128,11 +136,13 @@ int CImgNode::NodeInRect(CRect& rect) {
 int CImgNode::PtInMask(CPoint point) {
     CRect rcNode;
     GetBoundRect(&rcNode);
-    if (!rcNode.PtInRect(point))
+    if (!rcNode.PtInRect(point)) {
         return 0;
+    }
     const buffer_host::View mask = buffer_host::Look(m_tx.hMask);
-    if (mask.pixels == nullptr || mask.unit != 1)
+    if (!mask.pixels || mask.unit != 1) {
         return 1;
+    }
     const std::int64_t nWidth = std::int64_t{rcNode.right} - rcNode.left;
     const std::int64_t nHeight = std::int64_t{rcNode.bottom} - rcNode.top;
     const std::int64_t x = (std::int64_t{point.x} - rcNode.left) * mask.width / nWidth;
@@ -143,8 +153,9 @@ int CImgNode::PtInMask(CPoint point) {
 void CImgNode::DrawMarquee(CDC* pDC) {
     CRect rcNode;
     GetBoundRect(&rcNode);
-    if (pDC == nullptr || rcNode.IsRectEmpty())
+    if (!pDC || rcNode.IsRectEmpty()) {
         return;
+    }
     pDC->MoveTo(rcNode.left, rcNode.top);
     pDC->LineTo(rcNode.right - 1, rcNode.top);
     pDC->LineTo(rcNode.right - 1, rcNode.bottom - 1);
@@ -152,9 +163,9 @@ void CImgNode::DrawMarquee(CDC* pDC) {
     pDC->LineTo(rcNode.left, rcNode.top);
 }
 
-int CImgNode::IsShadowNode() const { return m_nType == node_type::Shadow && m_pOwner != nullptr; }
+int CImgNode::IsShadowNode() const { return m_nType == node_type::Shadow && m_pOwner; }
 
-int CImgNode::IsFrameNode() const { return m_nType == node_type::Frame && m_pOwner != nullptr; }
+int CImgNode::IsFrameNode() const { return m_nType == node_type::Frame && m_pOwner; }
 
 CRect CImgNode::m_fnGetBoundRectWithFrame() {
     CRect rect;
@@ -164,8 +175,9 @@ CRect CImgNode::m_fnGetBoundRectWithFrame() {
 }
 
 int CImgNode::m_fnUpdateBCAndT(int nBrightness, int nContrast, int nTransparency) {
-    if (platform::FaultTrips("display-values"))
+    if (platform::FaultTrips("display-values")) {
         return 0;
+    }
     m_nBrightness = nBrightness;
     m_nContrast = nContrast;
     m_nTransparency = nTransparency;
@@ -174,10 +186,12 @@ int CImgNode::m_fnUpdateBCAndT(int nBrightness, int nContrast, int nTransparency
 }
 
 void CImgNode::GetOrthogonalWH(double* pdWidth, double* pdHeight) const {
-    if (pdWidth != nullptr)
+    if (pdWidth) {
         *pdWidth = m_tx.nWidth;
-    if (pdHeight != nullptr)
+    }
+    if (pdHeight) {
         *pdHeight = m_tx.nHeight;
+    }
 }
 
 CTxParam CImgNode::GetLastTrans() const { return m_tx; }
@@ -190,10 +204,12 @@ void CImgNode::SetLastTrans(CTxParam& param) {
 int CImgNode::SetImage(HBUF32 hImage, HBUF32 hMask, int nX, int nY, int /*nReserved*/) {
     const buffer_host::View image = buffer_host::Look(hImage);
     const buffer_host::View mask = buffer_host::Look(hMask);
-    if (image.pixels == nullptr || image.unit != 3)
+    if (!image.pixels || image.unit != 3) {
         return 0;
-    if (hMask != 0 && (mask.pixels == nullptr || mask.unit != 1))
+    }
+    if (hMask != 0 && (!mask.pixels || mask.unit != 1)) {
         return 0;
+    }
     ReplaceBuffer(m_hImage, hImage);
     ReplaceBuffer(m_tx.hMask, hMask);
     m_tx.nX = nX;

@@ -23,65 +23,73 @@ CImgNodeList::CImgNodeList(CImgDoc* pDoc, Role role) : m_pDoc(pDoc), m_role(role
 CImgNodeList::~CImgNodeList() { DropAll(); }
 
 void CImgNodeList::Record(const char* pszOp) const {
-    if (m_role == Role::Free || !trace::IsOn())
+    if (m_role == Role::Free || !trace::IsOn()) {
         return;
+    }
     const std::string op = std::string(m_role == Role::Objects ? "objects." : "selection.") + pszOp;
     trace::Call("doc", op.c_str());
 }
 
 void CImgNodeList::Record(const char* pszOp, const CImgNode* pNode) const {
-    if (m_role == Role::Free || !trace::IsOn())
+    if (m_role == Role::Free || !trace::IsOn()) {
         return;
+    }
     const std::string op = std::string(m_role == Role::Objects ? "objects." : "selection.") + pszOp;
     trace::Call("doc", op.c_str(), {trace::Node(pNode)});
 }
 
 void CImgNodeList::Record(const char* pszOp, const CImgNode* pNode, POSITION other) const {
-    if (m_role == Role::Free || !trace::IsOn())
+    if (m_role == Role::Free || !trace::IsOn()) {
         return;
+    }
     const std::string op = std::string(m_role == Role::Objects ? "objects." : "selection.") + pszOp;
-    trace::Call("doc", op.c_str(),
-                {trace::Node(pNode), trace::Node(other != nullptr ? GetAt(other) : nullptr)});
+    trace::Call("doc", op.c_str(), {trace::Node(pNode), trace::Node(other ? GetAt(other) : nullptr)});
 }
 
 POSITION CImgNodeList::AddHead(CImgNode* pNode) {
-    if (!Accepts(pNode))
+    if (!Accepts(pNode)) {
         return nullptr;
+    }
     Record("AddHead", pNode);
     return Enter(CPtrList::AddHead(pNode));
 }
 
 POSITION CImgNodeList::AddTail(CImgNode* pNode) {
-    if (!Accepts(pNode))
+    if (!Accepts(pNode)) {
         return nullptr;
+    }
     Record("AddTail", pNode);
     return Enter(CPtrList::AddTail(pNode));
 }
 
 POSITION CImgNodeList::InsertBefore(POSITION position, CImgNode* pNode) {
-    if (!Accepts(pNode))
+    if (!Accepts(pNode)) {
         return nullptr;
+    }
     Record("InsertBefore", pNode, position);
     return Enter(CPtrList::InsertBefore(position, pNode));
 }
 
 POSITION CImgNodeList::InsertAfter(POSITION position, CImgNode* pNode) {
-    if (!Accepts(pNode))
+    if (!Accepts(pNode)) {
         return nullptr;
+    }
     Record("InsertAfter", pNode, position);
     return Enter(CPtrList::InsertAfter(position, pNode));
 }
 
 void CImgNodeList::RemoveAt(POSITION position) {
-    if (position == nullptr)
+    if (!position) {
         return;
+    }
     Record("RemoveAt", GetAt(position));
     Drop(position);
 }
 
 CImgNode* CImgNodeList::RemoveHead() {
-    if (IsEmpty())
+    if (IsEmpty()) {
         return nullptr;
+    }
     CImgNode* pNode = GetHead();
     Record("RemoveHead", pNode);
     Drop(GetHeadPosition());
@@ -89,8 +97,9 @@ CImgNode* CImgNodeList::RemoveHead() {
 }
 
 CImgNode* CImgNodeList::RemoveTail() {
-    if (IsEmpty())
+    if (IsEmpty()) {
         return nullptr;
+    }
     CImgNode* pNode = GetTail();
     Record("RemoveTail", pNode);
     Drop(GetTailPosition());
@@ -104,23 +113,28 @@ void CImgNodeList::RemoveAll() {
 
 POSITION CImgNodeList::Find(const CImgNode* pNode) const {
     CImgNode* pSought = const_cast<CImgNode*>(pNode);
-    if (m_role == Role::Free)
+    if (m_role == Role::Free) {
         return CPtrList::Find(pSought);
+    }
     // Whoever kept a pointer to a node that was deleted asks for it here, and is told that it is gone.
     const bool bOurs = CNodeBookkeeping::IsLive(pNode) && pNode->m_pDoc == m_pDoc;
     return bOurs ? FirstPlace(*pSought) : nullptr;
 }
 
 bool CImgNodeList::Accepts(CImgNode* pNode) {
-    if (pNode == nullptr)
+    if (!pNode) {
         return false;
-    if (m_role == Role::Free)
+    }
+    if (m_role == Role::Free) {
         return true;
-    if (!CNodeBookkeeping::IsLive(pNode))
+    }
+    if (!CNodeBookkeeping::IsLive(pNode)) {
         return false;
+    }
     // A node made without a document belongs to the one whose list takes it.
-    if (pNode->m_pDoc == nullptr)
+    if (!pNode->m_pDoc) {
         CNodeBookkeeping::Register(*pNode, m_pDoc);
+    }
     return pNode->m_pDoc == m_pDoc;
 }
 
@@ -135,16 +149,19 @@ std::uint32_t& CImgNodeList::PlaceCount(CImgNode& node) const {
 bool CImgNodeList::IsFirstPlace(POSITION position) const { return FirstPlace(*GetAt(position)) == position; }
 
 POSITION CImgNodeList::Enter(POSITION position) {
-    if (position == nullptr || m_role == Role::Free)
+    if (!position || m_role == Role::Free) {
         return position;
+    }
     CImgNode& node = *GetAt(position);
     const POSITION former = FirstPlace(node);
     FirstPlace(node) = ++PlaceCount(node) == 1 ? position : CPtrList::Find(&node);
-    if (m_role != Role::Objects || FirstPlace(node) == former)
+    if (m_role != Role::Objects || FirstPlace(node) == former) {
         return position;
+    }
     AssignKey(position);
-    if (former == nullptr)
+    if (!former) {
         m_pDoc->m_pIndex->Insert(node, CNodeBookkeeping::NodeRect(node));
+    }
     return position;
 }
 
@@ -155,16 +172,19 @@ void CImgNodeList::Drop(POSITION position) {
     }
     CImgNode& node = *GetAt(position);
     const bool bWasFirst = IsFirstPlace(position);
-    if (bWasFirst)
+    if (bWasFirst) {
         FirstPlace(node) = PlaceCount(node) > 1 ? CPtrList::Find(&node, position) : nullptr;
+    }
     --PlaceCount(node);
     CPtrList::RemoveAt(position);
-    if (m_role != Role::Objects || !bWasFirst)
+    if (m_role != Role::Objects || !bWasFirst) {
         return;
-    if (node.m_posInObjList != nullptr)
+    }
+    if (node.m_posInObjList) {
         AssignKey(node.m_posInObjList);
-    else
+    } else {
         m_pDoc->m_pIndex->Remove(node);
+    }
 }
 
 void CImgNodeList::DropAll() {
@@ -172,12 +192,13 @@ void CImgNodeList::DropAll() {
         CPtrList::RemoveAll();
         return;
     }
-    while (!IsEmpty())
+    while (!IsEmpty()) {
         Drop(GetTailPosition());
+    }
 }
 
 void CImgNodeList::DropNode(CImgNode& node) {
-    while (FirstPlace(node) != nullptr) {
+    while (FirstPlace(node)) {
         Record("RemoveAt", &node);
         Drop(FirstPlace(node));
     }
@@ -185,15 +206,17 @@ void CImgNodeList::DropNode(CImgNode& node) {
 
 POSITION CImgNodeList::KeyedBefore(POSITION position) const {
     GetPrev(position);
-    while (position != nullptr && !IsFirstPlace(position))
+    while (position && !IsFirstPlace(position)) {
         GetPrev(position);
+    }
     return position;
 }
 
 POSITION CImgNodeList::KeyedBehind(POSITION position) const {
     GetNext(position);
-    while (position != nullptr && !IsFirstPlace(position))
+    while (position && !IsFirstPlace(position)) {
         GetNext(position);
+    }
     return position;
 }
 
@@ -201,15 +224,16 @@ void CImgNodeList::AssignKey(POSITION position) {
     const POSITION before = KeyedBefore(position);
     const POSITION behind = KeyedBehind(position);
     std::int64_t& nKey = GetAt(position)->m_nStackKey;
-    if (before == nullptr) {
-        nKey = behind != nullptr ? GetAt(behind)->m_nStackKey - KeyGap : 0;
+    if (!before) {
+        nKey = behind ? GetAt(behind)->m_nStackKey - KeyGap : 0;
         return;
     }
     const std::int64_t nBefore = GetAt(before)->m_nStackKey;
-    const std::int64_t nRoom = behind != nullptr ? GetAt(behind)->m_nStackKey - nBefore : 2 * KeyGap;
+    const std::int64_t nRoom = behind ? GetAt(behind)->m_nStackKey - nBefore : 2 * KeyGap;
     nKey = nBefore + nRoom / 2;
-    if (nRoom < 2)
+    if (nRoom < 2) {
         SpreadKeys(position);
+    }
 }
 
 /// Takes in ever more neighbours until their keys, spread evenly, stand apart again. The room asked for grows
@@ -221,11 +245,10 @@ void CImgNodeList::SpreadKeys(POSITION position) {
     for (;;) {
         const POSITION before = KeyedBefore(first);
         const POSITION behind = KeyedBehind(last);
-        if (before == nullptr || behind == nullptr) {
-            const std::int64_t nFrom = before != nullptr ? GetAt(before)->m_nStackKey
-                                       : behind != nullptr
-                                           ? GetAt(behind)->m_nStackKey - KeyGap * (nCount + 1)
-                                           : 0;
+        if (!before || !behind) {
+            const std::int64_t nFrom = before   ? GetAt(before)->m_nStackKey
+                                       : behind ? GetAt(behind)->m_nStackKey - KeyGap * (nCount + 1)
+                                                : 0;
             SpreadBetween(first, last, nFrom, KeyGap);
             return;
         }
@@ -245,7 +268,8 @@ void CImgNodeList::SpreadBetween(POSITION first, POSITION last, std::int64_t nFr
     for (POSITION at = first;; at = KeyedBehind(at)) {
         nFrom += nStep;
         GetAt(at)->m_nStackKey = nFrom;
-        if (at == last)
+        if (at == last) {
             return;
+        }
     }
 }

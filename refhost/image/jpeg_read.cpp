@@ -35,8 +35,9 @@ void OnError(j_common_ptr pInfo) {
 /// The library paints over what is missing and goes on; here a picture that is cut short is none.
 void OnMessage(j_common_ptr pInfo, int nLevel) {
     const int nCode = pInfo->err->msg_code;
-    if (nLevel < 0 && (nCode == JWRN_JPEG_EOF || nCode == JWRN_HIT_MARKER))
+    if (nLevel < 0 && (nCode == JWRN_JPEG_EOF || nCode == JWRN_HIT_MARKER)) {
         OnError(pInfo);
+    }
 }
 
 bool Prepare(Decoder& decoder) {
@@ -72,13 +73,15 @@ void ReadRows(Decoder& decoder) {
 
 /// No local of this function has a destructor: errors jump out of the library to here.
 bool Decode(Decoder& decoder, std::FILE* pFile) {
-    if (setjmp(decoder.jump) != 0)
+    if (setjmp(decoder.jump) != 0) {
         return false;
+    }
     jpeg_create_decompress(&decoder.info);
     jpeg_stdio_src(&decoder.info, pFile);
     jpeg_read_header(&decoder.info, TRUE);
-    if (!Prepare(decoder))
+    if (!Prepare(decoder)) {
         return false;
+    }
     jpeg_start_decompress(&decoder.info);
     ReadRows(decoder);
     jpeg_finish_decompress(&decoder.info);

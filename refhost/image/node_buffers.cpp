@@ -18,8 +18,9 @@ bool HasSize(const View& view, int nWidth, int nHeight) {
 
 /// A copy of the picture at that size.
 bool Resampled(const Picture& original, int nWidth, int nHeight, Picture& shown) {
-    if (original.width != nWidth || original.height != nHeight)
+    if (original.width != nWidth || original.height != nHeight) {
         return ScalePicture(original, nWidth, nHeight, shown);
+    }
     shown.image = CBufferPtr(buf32DupBuf(original.image.Get()));
     shown.mask = CBufferPtr(original.mask ? buf32DupBuf(original.mask.Get()) : 0);
     return shown.image && static_cast<bool>(shown.mask) == static_cast<bool>(original.mask);
@@ -34,7 +35,7 @@ void AddMask(const View& whole, const CRect& rcWhole, CImgNode& node) {
         std::uint8_t* pOut = whole.Row(y - rcWhole.top) - rcWhole.left;
         for (int x = rcNode.left; x < rcNode.right; ++x) {
             std::uint8_t value = 255;
-            if (mask.pixels != nullptr) {
+            if (mask.pixels) {
                 const std::int64_t nColumn = std::int64_t{x - rcNode.left} * mask.width / rcNode.Width();
                 const std::int64_t nRow = std::int64_t{y - rcNode.top} * mask.height / rcNode.Height();
                 value = mask.Row(static_cast<int>(nRow))[nColumn];
@@ -50,8 +51,9 @@ void CImgNode::m_fnAdjustImageNodeBuf(int /*nReserved*/, int /*nReserved2*/) {
     const View image = Look(m_hImage);
     const int nWidth = m_tx.nWidth;
     const int nHeight = m_tx.nHeight;
-    if (image.pixels == nullptr || nWidth <= 0 || nHeight <= 0 || HasSize(image, nWidth, nHeight))
+    if (!image.pixels || nWidth <= 0 || nHeight <= 0 || HasSize(image, nWidth, nHeight)) {
         return;
+    }
     // A mask of another size than the image's has a scale of its own and stays as it is.
     const bool bMaskGoesAlong = HasSize(Look(m_tx.hMask), image.width, image.height);
     const bool bOriginal = m_hTransSrcImage != 0;
@@ -70,27 +72,33 @@ void CImgNode::m_fnAdjustImageNodeBuf(int /*nReserved*/, int /*nReserved2*/) {
     HBUF32& hKeptMask = bMade ? m_hTransSrcMask : hSourceMask;
     hKeptImage = original.image.Release();
     hKeptMask = original.mask.Release();
-    if (!bMade)
+    if (!bMade) {
         return;
-    if (bOriginal)
+    }
+    if (bOriginal) {
         buf32Free(m_hImage);
+    }
     m_hImage = shown.image.Release();
     CNodeBookkeeping::PlaceChanged(*this);
-    if (!bMaskGoesAlong)
+    if (!bMaskGoesAlong) {
         return;
-    if (bOriginal)
+    }
+    if (bOriginal) {
         buf32Free(m_tx.hMask);
+    }
     m_tx.hMask = shown.mask.Release();
 }
 
 HBUF32 CImgNode::CreateMaskBufByCombine() {
     const CRect rcWhole = m_fnGetBoundRectWithFrame();
     HBUF32 hWhole = 0;
-    if (!buf32Alloc(&hWhole, 8, rcWhole.Width(), rcWhole.Height(), 1, nullptr))
+    if (!buf32Alloc(&hWhole, 8, rcWhole.Width(), rcWhole.Height(), 1, nullptr)) {
         return 0;
+    }
     const View whole = Look(hWhole);
     AddMask(whole, rcWhole, *this);
-    if (m_pFrameNode != nullptr)
+    if (m_pFrameNode) {
         AddMask(whole, rcWhole, *m_pFrameNode);
+    }
     return hWhole;
 }

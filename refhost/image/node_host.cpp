@@ -84,15 +84,17 @@ CRect CNodeBookkeeping::NodeRect(const CImgNode& node) {
 }
 
 void CNodeBookkeeping::PlaceChanged(CImgNode& node) {
-    if (node.m_bIndexed)
+    if (node.m_bIndexed) {
         node.m_pDoc->m_pIndex->Update(node, NodeRect(node));
+    }
 }
 
 CChangedArea& CNodeBookkeeping::Changed(const CImgDoc& doc) { return doc.m_pIndex->Changed(); }
 
 void CNodeBookkeeping::Register(CImgNode& node, CImgDoc* pDoc) {
-    if (pDoc == nullptr)
+    if (!pDoc) {
         return;
+    }
     node.m_pDoc = pDoc;
     node.m_nNodeSetIndex = static_cast<std::uint32_t>(pDoc->m_nodeSet.size());
     pDoc->m_nodeSet.push_back(&node);
@@ -100,8 +102,9 @@ void CNodeBookkeeping::Register(CImgNode& node, CImgDoc* pDoc) {
 
 void CNodeBookkeeping::Unregister(CImgNode& node) {
     CImgDoc* pDoc = node.m_pDoc;
-    if (pDoc == nullptr)
+    if (!pDoc) {
         return;
+    }
     pDoc->m_actList.DropNode(node);
     pDoc->m_objList.DropNode(node);
     CImgNode* pLast = pDoc->m_nodeSet.back();

@@ -22,14 +22,16 @@ std::string NameBeside(const std::string& name, int n) {
 } // namespace
 
 COutputFile::COutputFile(const char* pszFile) : m_name(pszFile) {
-    if (!MayReplace())
+    if (!MayReplace()) {
         return;
+    }
     int nFile = -1;
     for (int n = 0; n < MostNames && nFile < 0; ++n) {
         m_beside = NameBeside(m_name, n);
         nFile = open(m_beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (nFile < 0 && errno != EEXIST)
+        if (nFile < 0 && errno != EEXIST) {
             break;
+        }
     }
     if (nFile < 0) {
         m_beside.clear();
@@ -37,7 +39,7 @@ COutputFile::COutputFile(const char* pszFile) : m_name(pszFile) {
         return;
     }
     m_pStream = fdopen(nFile, "wb");
-    if (m_pStream == nullptr) {
+    if (!m_pStream) {
         Fail();
         close(nFile);
     }
@@ -47,8 +49,9 @@ COutputFile::~COutputFile() { Abandon(); }
 
 bool COutputFile::MayReplace() {
     struct stat status;
-    if (lstat(m_name.c_str(), &status) != 0)
+    if (lstat(m_name.c_str(), &status) != 0) {
         return errno == ENOENT || Fail();
+    }
     if (!S_ISREG(status.st_mode)) {
         m_error = S_ISLNK(status.st_mode) ? "a symbolic link is not written through"
                                           : "it is no plain file, so it is not written over";
@@ -59,8 +62,9 @@ bool COutputFile::MayReplace() {
 }
 
 bool COutputFile::Commit() {
-    if (m_pStream == nullptr)
+    if (!m_pStream) {
         return false;
+    }
     const bool bMode = m_nMode < 0 || fchmod(fileno(m_pStream), static_cast<mode_t>(m_nMode)) == 0;
     const bool bWritten = std::ferror(m_pStream) == 0;
     // What is still in the stream's buffer may find the disk full.
@@ -80,9 +84,11 @@ bool COutputFile::Fail() {
 }
 
 void COutputFile::Abandon() {
-    if (m_pStream != nullptr)
+    if (m_pStream) {
         std::fclose(std::exchange(m_pStream, nullptr));
-    if (!m_beside.empty())
+    }
+    if (!m_beside.empty()) {
         unlink(m_beside.c_str());
+    }
     m_beside.clear();
 }

@@ -23,8 +23,9 @@ struct Placement {
 
 std::optional<Placement> Place(const RECT& box, const RECT& rcPart) {
     Placement placement{box, {}};
-    if (IntersectRect(&placement.part, &box, &rcPart) == FALSE)
+    if (IntersectRect(&placement.part, &box, &rcPart) == FALSE) {
         return std::nullopt;
+    }
     return placement;
 }
 
@@ -48,10 +49,12 @@ CRect Reach(const ViewMap& map, const RECT& rcPart) {
 /// The display values of one node, as tables; a table that would change nothing is absent.
 struct Look {
     explicit Look(const CImgNode& node) : bHidden(node.m_nTransparency >= 100) {
-        if (node.m_nBrightness != 0 || node.m_nContrast != 0)
+        if (node.m_nBrightness != 0 || node.m_nContrast != 0) {
             tone = blend::ToneTable(node.m_nBrightness, node.m_nContrast);
-        if (node.m_nTransparency > 0)
+        }
+        if (node.m_nTransparency > 0) {
             opacity = blend::OpacityTable(node.m_nTransparency);
+        }
     }
     bool bHidden;
     std::optional<blend::Table> tone;
@@ -64,36 +67,42 @@ void CPageComposer::Compose(const CImgDoc* pDoc, const ViewMap& map, const Pixel
                             const RECT& rcPart) {
     const RECT rcTarget{0, 0, target.width, target.height};
     RECT rcClipped;
-    if (IntersectRect(&rcClipped, &rcPart, &rcTarget) == FALSE)
+    if (IntersectRect(&rcClipped, &rcPart, &rcTarget) == FALSE) {
         return;
-    if (pDoc == nullptr) {
+    }
+    if (!pDoc) {
         FillBackdrop(target, rcClipped);
         return;
     }
     DrawBase(*pDoc, map, target, rcClipped);
     CNodeBookkeeping::NodesInRect(*pDoc, Reach(map, rcClipped), m_nodes);
-    for (auto node = m_nodes.rbegin(); node != m_nodes.rend(); ++node)
+    for (auto node = m_nodes.rbegin(); node != m_nodes.rend(); ++node) {
         DrawNode(**node, map, target, rcClipped);
+    }
 }
 
 void CPageComposer::FillBackdrop(const PixelTarget& target, const RECT& rcPart) {
-    for (int y = rcPart.top; y < rcPart.bottom; ++y)
+    for (int y = rcPart.top; y < rcPart.bottom; ++y) {
         blend::FillRow(target.Row(y) + rcPart.left, Backdrop, rcPart.right - rcPart.left);
+    }
 }
 
 void CPageComposer::DrawBase(const CImgDoc& doc, const ViewMap& map, const PixelTarget& target,
                              const RECT& rcPart) {
     const buffer_host::View base = buffer_host::Look(doc.GetBaseImage());
     const auto placement = Place(map.RectToClient({0, 0, doc.PageWidth(), doc.PageHeight()}), rcPart);
-    const bool bBase = placement && base.pixels != nullptr && base.unit == 3;
-    if (!bBase || EqualRect(&placement->part, &rcPart) == FALSE)
+    const bool bBase = placement && base.pixels && base.unit == 3;
+    if (!bBase || EqualRect(&placement->part, &rcPart) == FALSE) {
         FillBackdrop(target, rcPart);
-    if (!bBase)
+    }
+    if (!bBase) {
         return;
+    }
     Open(m_image, base, *placement);
-    for (int y = placement->part.top; y < placement->part.bottom; ++y)
+    for (int y = placement->part.top; y < placement->part.bottom; ++y) {
         blend::CopyRow(target.Row(y) + placement->part.left,
                        m_image.Row(std::int64_t{y} - placement->box.top), placement->Count());
+    }
 }
 
 void CPageComposer::DrawNode(const CImgNode& node, const ViewMap& map, const PixelTarget& target,
@@ -102,13 +111,15 @@ void CPageComposer::DrawNode(const CImgNode& node, const ViewMap& map, const Pix
     const buffer_host::View mask = buffer_host::Look(node.m_tx.hMask);
     const auto placement = Place(map.RectToClient(CNodeBookkeeping::NodeRect(node)), rcPart);
     const Look look(node);
-    if (image.pixels == nullptr || image.unit != 3 || !placement || look.bHidden)
+    if (!image.pixels || image.unit != 3 || !placement || look.bHidden) {
         return;
+    }
     const int nCount = placement->Count();
-    const bool bMask = mask.pixels != nullptr && mask.unit == 1;
+    const bool bMask = mask.pixels && mask.unit == 1;
     Open(m_image, image, *placement);
-    if (bMask)
+    if (bMask) {
         Open(m_mask, mask, *placement);
+    }
     m_toned.resize(static_cast<std::size_t>(nCount) * 3 + buffer_host::ReadablePadding);
     // Without a mask of its own a transparent node has one even share everywhere.
     m_shares.assign(static_cast<std::size_t>(nCount), look.opacity ? (*look.opacity)[255] : 255);

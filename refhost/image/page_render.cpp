@@ -20,11 +20,13 @@ int Side(int nLength, double dScale) {
 bool RenderPage(const CImgDoc& doc, double dScale, RenderedPage& page) {
     const int nWidth = Side(doc.PageWidth(), dScale);
     const int nHeight = Side(doc.PageHeight(), dScale);
-    if (nWidth == 0 || nHeight == 0 || static_cast<double>(nWidth) * nHeight > MaxPixels)
+    if (nWidth == 0 || nHeight == 0 || static_cast<double>(nWidth) * nHeight > MaxPixels) {
         return false;
+    }
     page.pixels = platform::MakePixels(static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight));
-    if (page.pixels == nullptr)
+    if (!page.pixels) {
         return false;
+    }
     page.width = nWidth;
     page.height = nHeight;
     CPageComposer composer;

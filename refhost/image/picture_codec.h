@@ -17,8 +17,9 @@ inline constexpr const char* TooMany = "the picture has more than 134217728 pixe
 
 /// Why a picture of that size is not read, or null.
 inline const char* SizeProblem(std::uint32_t nWidth, std::uint32_t nHeight) {
-    if (nWidth > MaxSide || nHeight > MaxSide)
+    if (nWidth > MaxSide || nHeight > MaxSide) {
         return TooLarge;
+    }
     return std::uint64_t{nWidth} * nHeight > MaxPixels ? TooMany : nullptr;
 }
 inline constexpr const char* NoMemory = "not enough memory for the picture";

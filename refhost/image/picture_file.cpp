@@ -26,18 +26,23 @@ bool Fail(std::string& error, const char* pszText) {
 
 bool LoadPicture(const char* pszFile, Picture& picture, std::string& error) {
     const CFilePtr file(std::fopen(pszFile, "rb"));
-    if (file == nullptr)
+    if (!file) {
         return Fail(error, std::strerror(errno));
+    }
     unsigned char signature[SignatureBytes] = {};
     const std::size_t nRead = std::fread(signature, 1, sizeof signature, file.get());
-    if (std::ferror(file.get()) != 0)
+    if (std::ferror(file.get()) != 0) {
         return Fail(error, std::strerror(errno));
-    if (nRead == 0)
+    }
+    if (nRead == 0) {
         return Fail(error, "the file is empty");
+    }
     std::rewind(file.get());
-    if (nRead == SignatureBytes && std::memcmp(signature, PngSignature, sizeof PngSignature) == 0)
+    if (nRead == SignatureBytes && std::memcmp(signature, PngSignature, sizeof PngSignature) == 0) {
         return picture_codec::ReadPng(file.get(), picture, error);
-    if (std::memcmp(signature, JpegSignature, sizeof JpegSignature) == 0)
+    }
+    if (std::memcmp(signature, JpegSignature, sizeof JpegSignature) == 0) {
         return picture_codec::ReadJpeg(file.get(), picture, error);
+    }
     return Fail(error, "neither a PNG nor a JPEG picture");
 }

@@ -38,10 +38,11 @@ CBufferPtr Join(const Picture& picture) {
     const View mask = buffer_host::Look(picture.mask.Get());
     CBufferPtr joined = NewBuffer(32, image.width, image.height);
     const View out = buffer_host::Look(joined.Get());
-    for (std::size_t i = 0; out.pixels != nullptr && i < PixelCount(out); ++i) {
-        const std::uint8_t alpha = mask.pixels != nullptr ? mask.pixels[i] : 255;
-        for (std::size_t channel = 0; channel < 3; ++channel)
+    for (std::size_t i = 0; out.pixels && i < PixelCount(out); ++i) {
+        const std::uint8_t alpha = mask.pixels ? mask.pixels[i] : 255;
+        for (std::size_t channel = 0; channel < 3; ++channel) {
             out.pixels[i * 4 + channel] = Multiplied(image.pixels[i * 3 + channel], alpha);
+        }
         out.pixels[i * 4 + 3] = alpha;
     }
     return joined;
@@ -56,8 +57,9 @@ void Part(const View& joined, const View& image, const View& mask) {
             image.pixels[i * 3 + channel] =
                 static_cast<std::uint8_t>(alpha > 0 ? std::min(255, (value * 255 + alpha / 2) / alpha) : 0);
         }
-        if (mask.pixels != nullptr)
+        if (mask.pixels) {
             mask.pixels[i] = static_cast<std::uint8_t>(alpha);
+        }
     }
 }
 
@@ -78,8 +80,9 @@ bool SetScaling(pixman_image_t* pSource, const View& from, const View& to) {
     pixman_fixed_t* pValues = pixman_filter_create_separable_convolution(
         &nValues, scaleX, scaleY, PIXMAN_KERNEL_LINEAR, PIXMAN_KERNEL_LINEAR, PIXMAN_KERNEL_BOX,
         PIXMAN_KERNEL_BOX, SubsampleBits, SubsampleBits);
-    if (pValues == nullptr)
+    if (!pValues) {
         return false;
+    }
     pixman_image_set_repeat(pSource, PIXMAN_REPEAT_PAD);
     const bool bSet =
         pixman_image_set_transform(pSource, &transform) != 0 &&
@@ -91,8 +94,9 @@ bool SetScaling(pixman_image_t* pSource, const View& from, const View& to) {
 bool ScaleJoined(const View& from, const View& to) {
     const CPixmanImage source = Wrap(from);
     const CPixmanImage target = Wrap(to);
-    if (source == nullptr || target == nullptr || !SetScaling(source.get(), from, to))
+    if (!source || !target || !SetScaling(source.get(), from, to)) {
         return false;
+    }
     pixman_image_composite32(PIXMAN_OP_SRC, source.get(), nullptr, target.get(), 0, 0, 0, 0, 0, 0, to.width,
                              to.height);
     return true;
@@ -120,14 +124,17 @@ bool ScalePicture(const Picture& picture, int nWidth, int nHeight, Picture& scal
     const bool bMask = static_cast<bool>(picture.mask);
     Picture result;
     result.image = NewBuffer(24, nWidth, nHeight);
-    if (bMask)
+    if (bMask) {
         result.mask = NewBuffer(8, nWidth, nHeight);
-    if (!IsPicture(picture) || !result.image || bMask != static_cast<bool>(result.mask))
+    }
+    if (!IsPicture(picture) || !result.image || bMask != static_cast<bool>(result.mask)) {
         return false;
+    }
     const CBufferPtr from = Join(picture);
     const CBufferPtr to = NewBuffer(32, nWidth, nHeight);
-    if (!from || !to || !ScaleJoined(buffer_host::Look(from.Get()), buffer_host::Look(to.Get())))
+    if (!from || !to || !ScaleJoined(buffer_host::Look(from.Get()), buffer_host::Look(to.Get()))) {
         return false;
+    }
     Part(buffer_host::Look(to.Get()), buffer_host::Look(result.image.Get()),
          buffer_host::Look(result.mask.Get()));
     result.width = nWidth;
@@ -140,8 +147,9 @@ bool SolidPicture(COLORREF color, int nWidth, int nHeight, Picture& picture) {
     Picture solid;
     solid.image = NewBuffer(24, nWidth, nHeight);
     const View view = buffer_host::Look(solid.image.Get());
-    if (view.pixels == nullptr)
+    if (!view.pixels) {
         return false;
+    }
     for (std::size_t i = 0; i < PixelCount(view); ++i) {
         view.pixels[i * 3] = GetBValue(color);
         view.pixels[i * 3 + 1] = GetGValue(color);
@@ -156,8 +164,9 @@ bool SolidPicture(COLORREF color, int nWidth, int nHeight, Picture& picture) {
 bool AddEllipseMask(Picture& picture) {
     CBufferPtr mask = NewBuffer(8, picture.width, picture.height);
     const View view = buffer_host::Look(mask.Get());
-    if (view.pixels == nullptr)
+    if (!view.pixels) {
         return false;
+    }
     const double dWidth = view.width;
     const double dHeight = view.height;
     for (int y = 0; y < view.height; ++y) {
@@ -174,14 +183,16 @@ bool AddEllipseMask(Picture& picture) {
 
 CImgNode* MakePictureNode(CImgDoc& doc, Picture&& picture, const CRect& rect) {
     std::unique_ptr<CImgNode> pNode(new CImgNode(&doc));
-    if (pNode == nullptr || !SetNodePicture(*pNode, std::move(picture), rect))
+    if (!pNode || !SetNodePicture(*pNode, std::move(picture), rect)) {
         return nullptr;
+    }
     return pNode.release();
 }
 
 bool SetNodePicture(CImgNode& node, Picture&& picture, const CRect& rect) {
-    if (!IsPicture(picture) || rect.IsRectEmpty() != FALSE)
+    if (!IsPicture(picture) || rect.IsRectEmpty() != FALSE) {
         return false;
+    }
     const int nWidth = rect.right - rect.left;
     const int nHeight = rect.bottom - rect.top;
     if (nWidth == picture.width && nHeight == picture.height) {
@@ -192,8 +203,9 @@ bool SetNodePicture(CImgNode& node, Picture&& picture, const CRect& rect) {
         return true;
     }
     Picture shown;
-    if (!ScalePicture(picture, nWidth, nHeight, shown))
+    if (!ScalePicture(picture, nWidth, nHeight, shown)) {
         return false;
+    }
     Adopt(node, std::move(shown), std::move(picture), rect);
     return true;
 }

@@ -41,13 +41,15 @@ void Unify(png_structp pPng, png_infop pInfo) {
 bool MakeRows(Decoder& decoder) {
     const int nUnit = png_get_channels(decoder.pPng, decoder.pInfo);
     HBUF32 hPixels = 0;
-    if (buf32Alloc(&hPixels, nUnit * 8, decoder.nWidth, decoder.nHeight, 0, nullptr) == 0)
+    if (buf32Alloc(&hPixels, nUnit * 8, decoder.nWidth, decoder.nHeight, 0, nullptr) == 0) {
         return false;
+    }
     decoder.pixels.Reset(hPixels);
     const buffer_host::View view = buffer_host::Look(hPixels);
     decoder.rows.resize(static_cast<std::size_t>(decoder.nHeight));
-    for (int y = 0; y < decoder.nHeight; ++y)
+    for (int y = 0; y < decoder.nHeight; ++y) {
         decoder.rows[static_cast<std::size_t>(y)] = view.Row(y);
+    }
     return true;
 }
 
@@ -65,14 +67,16 @@ bool ReadSize(Decoder& decoder) {
 
 /// No local of this function has a destructor: errors jump out of the library to here.
 bool Decode(Decoder& decoder, std::FILE* pFile) {
-    if (setjmp(png_jmpbuf(decoder.pPng)) != 0)
+    if (setjmp(png_jmpbuf(decoder.pPng)) != 0) {
         return false;
+    }
     png_init_io(decoder.pPng, pFile);
     // The size is judged here, before pixels are allocated, and with a text of its own.
     png_set_user_limits(decoder.pPng, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
     png_read_info(decoder.pPng, decoder.pInfo);
-    if (!ReadSize(decoder))
+    if (!ReadSize(decoder)) {
         return false;
+    }
     Unify(decoder.pPng, decoder.pInfo);
     if (!MakeRows(decoder)) {
         decoder.error = picture_codec::NoMemory;
@@ -91,8 +95,9 @@ bool Split(const Decoder& decoder, Picture& picture) {
     picture.image.Reset(hImage);
     buf32Alloc(&hMask, 8, decoder.nWidth, decoder.nHeight, 0, nullptr);
     picture.mask.Reset(hMask);
-    if (hImage == 0 || hMask == 0)
+    if (hImage == 0 || hMask == 0) {
         return false;
+    }
     const std::uint8_t* pFrom = buffer_host::Look(decoder.pixels.Get()).pixels;
     std::uint8_t* pColor = buffer_host::Look(hImage).pixels;
     std::uint8_t* pAlpha = buffer_host::Look(hMask).pixels;
@@ -112,9 +117,10 @@ bool Split(const Decoder& decoder, Picture& picture) {
 bool picture_codec::ReadPng(std::FILE* pFile, Picture& picture, std::string& error) {
     Decoder decoder;
     decoder.pPng = png_create_read_struct(PNG_LIBPNG_VER_STRING, &decoder, OnError, OnWarning);
-    if (decoder.pPng != nullptr)
+    if (decoder.pPng) {
         decoder.pInfo = png_create_info_struct(decoder.pPng);
-    if (decoder.pInfo == nullptr) {
+    }
+    if (!decoder.pInfo) {
         error = NoMemory;
         return false;
     }

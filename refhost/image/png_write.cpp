@@ -33,17 +33,20 @@ void OnWarning(png_structp, png_const_charp) {}
 
 /// No local of this function has a destructor: errors jump out of the library to here.
 bool Encode(Encoder& encoder, std::FILE* pFile) {
-    if (setjmp(png_jmpbuf(encoder.pPng)) != 0)
+    if (setjmp(png_jmpbuf(encoder.pPng)) != 0) {
         return false;
+    }
     const int nType = encoder.layout == Layout::Gray8 ? PNG_COLOR_TYPE_GRAY : PNG_COLOR_TYPE_RGB;
     png_init_io(encoder.pPng, pFile);
     png_set_IHDR(encoder.pPng, encoder.pInfo, encoder.nWidth, static_cast<png_uint_32>(encoder.rows.size()),
                  8, nType, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
     png_write_info(encoder.pPng, encoder.pInfo);
-    if (encoder.layout != Layout::Gray8)
+    if (encoder.layout != Layout::Gray8) {
         png_set_bgr(encoder.pPng);
-    if (encoder.layout == Layout::Color32)
+    }
+    if (encoder.layout == Layout::Color32) {
         png_set_filler(encoder.pPng, 0, PNG_FILLER_AFTER);
+    }
     png_write_image(encoder.pPng, encoder.rows.data());
     png_write_end(encoder.pPng, nullptr);
     return true;
@@ -51,31 +54,35 @@ bool Encode(Encoder& encoder, std::FILE* pFile) {
 
 bool WriteFile(const char* pszFile, Encoder& encoder) {
     COutputFile file(pszFile);
-    if (file.Stream() == nullptr) {
+    if (!file.Stream()) {
         encoder.error = file.Error();
         return false;
     }
     if (!Encode(encoder, file.Stream())) {
-        if (std::ferror(file.Stream()) != 0)
+        if (std::ferror(file.Stream()) != 0) {
             encoder.error = "it cannot be written to its end";
+        }
         return false;
     }
-    if (file.Commit())
+    if (file.Commit()) {
         return true;
+    }
     encoder.error = file.Error();
     return false;
 }
 
 bool Write(const char* pszFile, Encoder& encoder, std::string& error) {
     encoder.pPng = png_create_write_struct(PNG_LIBPNG_VER_STRING, &encoder, OnError, OnWarning);
-    if (encoder.pPng != nullptr)
+    if (encoder.pPng) {
         encoder.pInfo = png_create_info_struct(encoder.pPng);
-    if (encoder.pInfo == nullptr) {
+    }
+    if (!encoder.pInfo) {
         error = "not enough memory to write the picture";
         return false;
     }
-    if (WriteFile(pszFile, encoder))
+    if (WriteFile(pszFile, encoder)) {
         return true;
+    }
     error = encoder.error;
     return false;
 }
@@ -84,7 +91,7 @@ bool Write(const char* pszFile, Encoder& encoder, std::string& error) {
 
 bool SavePng(const char* pszFile, const std::uint32_t* pPixels, int nWidth, int nHeight, int nStride,
              std::string& error) {
-    if (pPixels == nullptr || nWidth <= 0 || nHeight <= 0) {
+    if (!pPixels || nWidth <= 0 || nHeight <= 0) {
         error = "there are no pixels to write";
         return false;
     }
@@ -100,14 +107,15 @@ bool SavePng(const char* pszFile, const std::uint32_t* pPixels, int nWidth, int 
 
 bool SaveBufferPng(const char* pszFile, HBUF32 hBuf, std::string& error) {
     const buffer_host::View view = buffer_host::Look(hBuf);
-    if (view.pixels == nullptr) {
+    if (!view.pixels) {
         error = "there are no pixels to write";
         return false;
     }
     Encoder encoder;
     encoder.layout = view.unit == 1 ? Layout::Gray8 : view.unit == 3 ? Layout::Color24 : Layout::Color32;
     encoder.nWidth = static_cast<png_uint_32>(view.width);
-    for (int y = 0; y < view.height; ++y)
+    for (int y = 0; y < view.height; ++y) {
         encoder.rows.push_back(view.Row(y));
+    }
     return Write(pszFile, encoder, error);
 }

@@ -18,8 +18,9 @@ void CRowSource::Open(const buffer_host::View& view, std::int64_t nBoxWidth, std
     m_nBoxHeight = nBoxHeight;
     m_nFirst = nFirst;
     m_bPlain = nBoxWidth == view.width && nBoxHeight == view.height;
-    if (m_bPlain)
+    if (m_bPlain) {
         return;
+    }
     const std::size_t nUnit = static_cast<std::size_t>(view.unit);
     const std::size_t nFirstPixel = static_cast<std::size_t>(SourcePlace(nFirst, nBoxWidth, view.width) >> 8);
     const std::size_t nLastPixel =
@@ -43,8 +44,9 @@ void CRowSource::BlendRows(const std::uint8_t* pUpper, const std::uint8_t* pLowe
     std::uint16_t* pOut = m_blended.data();
     const std::uint16_t lower = static_cast<std::uint16_t>(nShare);
     const std::uint16_t upper = static_cast<std::uint16_t>(256 - nShare);
-    for (std::size_t i = 0; i < m_nBytes; ++i)
+    for (std::size_t i = 0; i < m_nBytes; ++i) {
         pOut[i] = static_cast<std::uint16_t>(pUpper[i] * upper + pLower[i] * lower);
+    }
 }
 
 template <int Unit>
@@ -61,16 +63,18 @@ void CRowSource::BlendColumns() {
 }
 
 const std::uint8_t* CRowSource::Row(std::int64_t y) {
-    if (m_bPlain)
+    if (m_bPlain) {
         return m_view.Row(static_cast<int>(y)) + m_nFirst * m_view.unit;
+    }
     const std::int64_t nPlace = SourcePlace(y, m_nBoxHeight, m_view.height);
     const int nUpper = static_cast<int>(nPlace >> 8);
     const int nLower = std::min(nUpper + 1, m_view.height - 1);
     BlendRows(m_view.Row(nUpper) + m_nFirstByte, m_view.Row(nLower) + m_nFirstByte,
               static_cast<std::uint32_t>(nPlace & 255));
-    if (m_view.unit == 1)
+    if (m_view.unit == 1) {
         BlendColumns<1>();
-    else
+    } else {
         BlendColumns<3>();
+    }
     return m_row.data();
 }

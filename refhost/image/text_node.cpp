@@ -19,8 +19,9 @@ void MoveBuffer(HBUF32& hFrom, HBUF32& hTo) { CBufferPtr(std::exchange(hTo, std:
 /// The companion follows the object that it is linked to.
 void MoveCompanion(CImgNode*& pFrom, CImgNode*& pTo, const CImgNode* pOldOwner, CImgNode* pNewOwner) {
     pTo = std::exchange(pFrom, nullptr);
-    if (pTo != nullptr && pTo->m_pOwner == pOldOwner)
+    if (pTo && pTo->m_pOwner == pOldOwner) {
         pTo->m_pOwner = pNewOwner;
+    }
 }
 
 void CopyText(const CTextNode& from, CTextNode& to) {
@@ -49,9 +50,9 @@ int CTextNode::PtInMask(CPoint point) {
 CImgNode* CTextNode::Duplicate() {
     std::unique_ptr<CTextNode> pCopy(
         platform::FaultTrips("copy") ? nullptr : new CTextNode(CNodeBookkeeping::DocumentOf(*this)));
-    if (pCopy == nullptr || !CNodeBookkeeping::CopyFields(*this, *pCopy) ||
-        !CTextEffectState::Copy(*this, *pCopy))
+    if (!pCopy || !CNodeBookkeeping::CopyFields(*this, *pCopy) || !CTextEffectState::Copy(*this, *pCopy)) {
         return nullptr;
+    }
     CopyText(*this, *pCopy);
     return pCopy.release();
 }
@@ -66,8 +67,9 @@ void CTextNode::m_fnGetText(CString& strText) const {
         const bool bBreak = ch == '\r' || ch == '\n';
         strJoined += bBreak ? '\n' : ch;
         // A line may end by one of the two, or by both in either order.
-        if (bBreak && i + 1 < nLength && m_strText[i + 1] == ('\r' ^ '\n' ^ ch))
+        if (bBreak && i + 1 < nLength && m_strText[i + 1] == ('\r' ^ '\n' ^ ch)) {
             ++i;
+        }
     }
     strText = strJoined;
 }
@@ -75,14 +77,16 @@ void CTextNode::m_fnGetText(CString& strText) const {
 char* CTextNode::CloneFontName() const {
     const std::size_t nBytes = static_cast<std::size_t>(m_strFontName.GetLength()) + 1;
     char* pszName = new (std::nothrow) char[nBytes];
-    if (pszName != nullptr)
+    if (pszName) {
         std::memcpy(pszName, static_cast<LPCSTR>(m_strFontName), nBytes);
+    }
     return pszName;
 }
 
 void CTextNode::m_fnAssign(textObject& object) {
-    if (!SetImage(object.m_hImage, object.m_hMask, object.m_ptOrigin.x, object.m_ptOrigin.y, 0))
+    if (!SetImage(object.m_hImage, object.m_hMask, object.m_ptOrigin.x, object.m_ptOrigin.y, 0)) {
         return;
+    }
     object.m_hImage = object.m_hMask = 0;
     CBufferPtr(std::exchange(m_hTransSrcImage, 0));
     CBufferPtr(std::exchange(m_hTransSrcMask, 0));
@@ -98,8 +102,9 @@ void CTextNode::m_fnAssign(textObject& object) {
 }
 
 void CTextNode::m_fnMoveMemberDataFrom(CTextNode* pOther) {
-    if (pOther == nullptr || pOther == this)
+    if (!pOther || pOther == this) {
         return;
+    }
     MoveBuffer(pOther->m_hImage, m_hImage);
     MoveBuffer(pOther->m_tx.hMask, m_tx.hMask);
     MoveBuffer(pOther->m_hTransSrcImage, m_hTransSrcImage);

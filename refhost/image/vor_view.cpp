@@ -50,10 +50,12 @@ void CVorView::DocRectToView(const CRect& rcDoc, CRect& rcClient) {
 }
 
 void CVorView::RepaintViewRect(const CRect& rcClient, int nErase) {
-    if (trace::IsOn())
+    if (trace::IsOn()) {
         trace::Call("view", "RepaintViewRect", {rcClient, static_cast<long long>(nErase)});
-    if (m_hWnd == nullptr)
+    }
+    if (!m_hWnd) {
         return;
+    }
     const trace::CQuietScope quiet;
     InvalidateRect(&rcClient, nErase == 1);
     UpdateWindow();
@@ -61,49 +63,57 @@ void CVorView::RepaintViewRect(const CRect& rcClient, int nErase) {
 
 CImgNode* CVorView::m_fnNodeUnderPt(CPoint& ptClient) {
     const CVorDoc* pDoc = GetVorDoc();
-    if (pDoc == nullptr)
+    if (!pDoc) {
         return nullptr;
+    }
     CPoint ptDoc;
     ViewPointToDoc(ptClient, ptDoc);
     CNodeBookkeeping::NodesAtPoint(*pDoc, ptDoc, m_pCache->m_hits);
     for (CImgNode* pNode : m_pCache->m_hits) {
-        if (pNode->PtInMask(ptDoc) != 0)
+        if (pNode->PtInMask(ptDoc) != 0) {
             return pNode;
+        }
     }
     return nullptr;
 }
 
 CImgNode* CVorView::m_fnSelectedNodeBoundaryUnderPt(CPoint& ptClient) {
     CVorDoc* pDoc = GetVorDoc();
-    if (pDoc == nullptr)
+    if (!pDoc) {
         return nullptr;
+    }
     const CImgNodeList& selection = *pDoc->GetActList();
-    for (POSITION position = selection.GetHeadPosition(); position != nullptr;) {
+    for (POSITION position = selection.GetHeadPosition(); position;) {
         CImgNode* pNode = selection.GetNext(position);
-        if (OutlineHolds(MapOf(*this).RectToClient(CNodeBookkeeping::NodeRect(*pNode)), ptClient))
+        if (OutlineHolds(MapOf(*this).RectToClient(CNodeBookkeeping::NodeRect(*pNode)), ptClient)) {
             return pNode;
+        }
     }
     return nullptr;
 }
 
 void CVorView::m_fnFlushCacheRect(CRect& rcClient) {
-    if (trace::IsOn())
+    if (trace::IsOn()) {
         trace::Call("view", "FlushCacheRect", {rcClient});
+    }
     const trace::CQuietScope quiet;
     m_pCache->Compose(GetVorDoc(), MapOf(*this), rcClient);
-    if (m_hWnd != nullptr)
+    if (m_hWnd) {
         InvalidateRect(&rcClient, FALSE);
+    }
 }
 
 HBITMAP CVorView::m_fnGetDisplayCache(CRect& rcClient) {
-    if (trace::IsOn())
+    if (trace::IsOn()) {
         trace::Call("view", "GetDisplayCache", {rcClient});
+    }
     return m_pCache->CopyOut(rcClient);
 }
 
 void CVorView::m_fnUpdateDisplayCache(CPoint& ptClient, HBITMAP hBitmap) {
-    if (trace::IsOn())
+    if (trace::IsOn()) {
         trace::Call("view", "UpdateDisplayCache", {ptClient});
+    }
     m_pCache->CopyIn(ptClient, hBitmap);
 }
 
@@ -130,8 +140,9 @@ bool CViewHost::SetClientSize(CVorView& view, int nWidth, int nHeight) {
 }
 
 bool CViewHost::SetZoom(CVorView& view, double dZoom) {
-    if (!IsZoom(dZoom))
+    if (!IsZoom(dZoom)) {
         return false;
+    }
     view.m_dZoom = dZoom;
     RecomposeAll(view);
     return true;
@@ -143,8 +154,9 @@ void CViewHost::SetScroll(CVorView& view, const CPoint& ptDoc) {
 }
 
 bool CViewHost::SetAll(CVorView& view, int nWidth, int nHeight, double dZoom, const CPoint& ptDoc) {
-    if (!IsZoom(dZoom))
+    if (!IsZoom(dZoom)) {
         return false;
+    }
     view.m_dZoom = dZoom;
     view.m_ptScroll = ptDoc;
     if (ClientSize(view) == CSize(nWidth, nHeight)) {
@@ -153,7 +165,7 @@ bool CViewHost::SetAll(CVorView& view, int nWidth, int nHeight, double dZoom, co
     }
     // The cache first: so the tool's answer to it is not silenced with the window's messages.
     FitCache(view, nWidth, nHeight);
-    if (view.m_hWnd != nullptr) {
+    if (view.m_hWnd) {
         const trace::CQuietScope quiet;
         view.SetWindowPos(nullptr, 0, 0, nWidth, nHeight, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
         view.InvalidateRect(nullptr, FALSE);
@@ -162,10 +174,12 @@ bool CViewHost::SetAll(CVorView& view, int nWidth, int nHeight, double dZoom, co
 }
 
 bool CViewHost::FitCache(CVorView& view, int nWidth, int nHeight) {
-    if (ClientSize(view) == CSize(nWidth, nHeight))
+    if (ClientSize(view) == CSize(nWidth, nHeight)) {
         return true;
-    if (!view.m_pCache->Resize(nWidth, nHeight))
+    }
+    if (!view.m_pCache->Resize(nWidth, nHeight)) {
         return false;
+    }
     RecomposeAll(view);
     return true;
 }
@@ -175,20 +189,23 @@ void CViewHost::RecomposeAll(CVorView& view) {
     {
         const trace::CQuietScope quiet;
         view.m_pCache->Compose(view.GetVorDoc(), MapOf(view), CRect(0, 0, size.cx, size.cy));
-        if (view.m_hWnd != nullptr)
+        if (view.m_hWnd) {
             view.InvalidateRect(nullptr, FALSE);
+        }
     }
     // What the current tool does in answer is its own and stands in the record.
-    if (view.m_pCache->m_hook)
+    if (view.m_pCache->m_hook) {
         view.m_pCache->m_hook(view);
+    }
 }
 
 CSize CViewHost::ClientSize(const CVorView& view) { return view.m_pCache->Size(); }
 
 bool CViewHost::CachePixel(const CVorView& view, int x, int y, DWORD& pixel) {
     const PixelTarget& pixels = view.m_pCache->Pixels();
-    if (x < 0 || y < 0 || x >= pixels.width || y >= pixels.height)
+    if (x < 0 || y < 0 || x >= pixels.width || y >= pixels.height) {
         return false;
+    }
     pixel = pixels.Row(y)[x];
     return true;
 }

@@ -136,17 +136,20 @@ void AverageBetween(const Sum* pBefore, const Sum* pWithin, std::uint8_t* pOut, 
                     const Mean& mean) {
     int i = 0;
     if constexpr (std::is_same_v<Mean, NarrowMean>) {
-        for (; i + LaneCount <= nCount; i += LaneCount)
+        for (; i + LaneCount <= nCount; i += LaneCount) {
             StoreBytes(pOut + i, mean(Load(pWithin + i) - Load(pBefore + i)));
+        }
     }
-    for (; i < nCount; ++i)
+    for (; i < nCount; ++i) {
         pOut[i] = mean(static_cast<Sum>(pWithin[i] - pBefore[i]));
+    }
 }
 
 template <class Sum>
 void AddRow(Sum* __restrict pColumns, const std::uint8_t* __restrict pRow, int nCount) {
-    for (int i = 0; i < nCount; ++i)
+    for (int i = 0; i < nCount; ++i) {
         pColumns[i] = static_cast<Sum>(pColumns[i] + pRow[i]);
+    }
 }
 
 /// The means of the columns with the entering row and still with the leaving one.
@@ -189,16 +192,19 @@ class CBoxAverage {
 
     /// False when memory is out; the mask is unchanged then.
     bool Run() {
-        if (!Allocate())
+        if (!Allocate()) {
             return false;
+        }
         for (int y = 0; y < m_mask.height + m_nReachY; ++y) {
-            if (y < m_mask.height)
+            if (y < m_mask.height) {
                 AverageRow(m_mask.Row(y), RingRow(y));
-            if (y < m_nReachY)
+            }
+            if (y < m_nReachY) {
                 AddRow(m_columns.get(), MeansOf(y), m_mask.width);
-            else
+            } else {
                 AverageColumns(m_columns.get(), MeansOf(y), MeansOf(y - 2 * m_nReachY),
                                m_mask.Row(y - m_nReachY), m_mask.width, m_mean);
+            }
         }
         return true;
     }
@@ -242,10 +248,12 @@ class CBoxAverage {
 };
 
 bool AverageBothWays(const View& mask, int nRadius) {
-    if (nRadius == 0)
+    if (nRadius == 0) {
         return true;
-    if (2 * static_cast<std::uint32_t>(nRadius) + 1 <= NarrowMean::MostWindow)
+    }
+    if (2 * static_cast<std::uint32_t>(nRadius) + 1 <= NarrowMean::MostWindow) {
         return CBoxAverage<NarrowMean>(mask, nRadius).Run();
+    }
     return CBoxAverage<WideMean>(mask, nRadius).Run();
 }
 
@@ -255,8 +263,9 @@ bool Soften(const View& mask, int nSoftness) {
     for (int nPass = 0; nPass < Passes; ++nPass) {
         const int nRadius = nLeft / (Passes - nPass);
         nLeft -= nRadius;
-        if (!AverageBothWays(mask, nRadius))
+        if (!AverageBothWays(mask, nRadius)) {
             return false;
+        }
     }
     return true;
 }
@@ -265,12 +274,14 @@ bool Soften(const View& mask, int nSoftness) {
 
 int sel32SoftEdgeMakeMask(CTxParam* pBlock, int /*nReserved*/, int nSoftness, int /*nReserved1*/,
                           int /*nReserved2*/, int /*nReserved3*/, int /*nReserved4*/) {
-    if (pBlock == nullptr || nSoftness < 0 || platform::FaultTrips("soft-mask"))
+    if (!pBlock || nSoftness < 0 || platform::FaultTrips("soft-mask")) {
         return 0;
+    }
     CBufferPtr soft(buf32DupBuf(pBlock->hMask));
     const View mask = buffer_host::Look(soft.Get());
-    if (mask.pixels == nullptr || mask.unit != 1 || !Soften(mask, nSoftness))
+    if (!mask.pixels || mask.unit != 1 || !Soften(mask, nSoftness)) {
         return 0;
+    }
     pBlock->hMask = soft.Release();
     return 1;
 }

@@ -16,13 +16,14 @@ std::optional<std::string>& DefaultFontName() {
 } // namespace
 
 void SetDefaultFontName(const char* pszName) {
-    DefaultFontName() = pszName != nullptr ? std::optional<std::string>(pszName) : std::nullopt;
+    DefaultFontName() = pszName ? std::optional<std::string>(pszName) : std::nullopt;
 }
 
 int gfnGetDefaultFontNameFromQuorProd(char* pszName, int nSize) {
     const std::optional<std::string>& name = DefaultFontName();
-    if (!name || pszName == nullptr || nSize < 1)
+    if (!name || !pszName || nSize < 1) {
         return 0;
+    }
     const std::size_t nBytes = std::min(name->size(), static_cast<std::size_t>(nSize) - 1);
     std::memcpy(pszName, name->data(), nBytes);
     pszName[nBytes] = '\0';

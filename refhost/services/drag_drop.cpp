@@ -4,7 +4,7 @@
 
 namespace {
 
-HWND HandleOf(CWnd* pWnd) { return pWnd != nullptr && ::IsWindow(pWnd->m_hWnd) ? pWnd->m_hWnd : nullptr; }
+HWND HandleOf(CWnd* pWnd) { return pWnd && ::IsWindow(pWnd->m_hWnd) ? pWnd->m_hWnd : nullptr; }
 
 } // namespace
 
@@ -17,15 +17,17 @@ void CDragDropTarget::m_fnEnableDropOperation(int nEnable) { m_nDropEnabled = nE
 int CDragDropTarget::m_fnOnDataArrive(int /*nReserved*/, int /*nPhase*/, UINT /*nFormat*/,
                                       CString& /*strData*/, DWORD /*dwKeyState*/, CPoint /*point*/,
                                       DWORD /*dwSource*/, DWORD* pdwEffect) {
-    if (pdwEffect != nullptr)
+    if (pdwEffect) {
         *pdwEffect = drop_effect::None;
+    }
     return 0;
 }
 
 void CDragDropTarget::m_fnOnDataArrive_CF_TEXT(int /*nReserved*/, CString& /*strData*/, DWORD /*dwReserved*/,
                                                DWORD* pdwEffect) {
-    if (pdwEffect != nullptr)
+    if (pdwEffect) {
         *pdwEffect = drop_effect::None;
+    }
 }
 
 void CDragDropTarget::m_fnOnDragLeave() {}

@@ -11,8 +11,9 @@ class [[nodiscard]] CClipboardScope {
   public:
     explicit CClipboardScope(HWND hWnd) : m_bOpen(::OpenClipboard(hWnd) != FALSE) {}
     ~CClipboardScope() {
-        if (m_bOpen)
+        if (m_bOpen) {
             ::CloseClipboard();
+        }
     }
     CClipboardScope(const CClipboardScope&) = delete;
     CClipboardScope& operator=(const CClipboardScope&) = delete;
@@ -26,9 +27,10 @@ class [[nodiscard]] CClipboardScope {
 std::optional<CString> ReadText(HWND hWnd) {
     const CClipboardScope clipboard(hWnd);
     HGLOBAL hBlock = clipboard.IsOpen() ? ::GetClipboardData(DropFormatText) : nullptr;
-    const char* pszText = static_cast<const char*>(hBlock != nullptr ? ::GlobalLock(hBlock) : nullptr);
-    if (pszText == nullptr)
+    const char* pszText = static_cast<const char*>(hBlock ? ::GlobalLock(hBlock) : nullptr);
+    if (!pszText) {
         return std::nullopt;
+    }
     const CString strText(pszText, static_cast<int>(::strnlen(pszText, ::GlobalSize(hBlock))));
     ::GlobalUnlock(hBlock);
     return strText;
@@ -38,7 +40,7 @@ std::optional<CString> ReadText(HWND hWnd) {
 HGLOBAL BlockOf(const CString& strText) {
     const std::size_t nBytes = static_cast<std::size_t>(strText.GetLength()) + 1;
     HGLOBAL hBlock = ::GlobalAlloc(GMEM_MOVEABLE, nBytes);
-    if (hBlock != nullptr) {
+    if (hBlock) {
         std::memcpy(::GlobalLock(hBlock), static_cast<LPCSTR>(strText), nBytes);
         ::GlobalUnlock(hBlock);
     }
@@ -48,7 +50,7 @@ HGLOBAL BlockOf(const CString& strText) {
 /// On success the block is the clipboard's.
 bool PutOnClipboard(HWND hWnd, HGLOBAL hBlock) {
     const CClipboardScope clipboard(hWnd);
-    return clipboard.IsOpen() && ::EmptyClipboard() && ::SetClipboardData(DropFormatText, hBlock) != nullptr;
+    return clipboard.IsOpen() && ::EmptyClipboard() && ::SetClipboardData(DropFormatText, hBlock);
 }
 
 } // namespace
@@ -58,11 +60,13 @@ int CDragDropTarget::m_fnIsPasteFromClipboardEnabled(CPoint& /*point*/) {
 }
 
 int CDragDropTarget::m_fnPasteClipboardData(CPoint& point) {
-    if (CDragSession::EnabledTarget(m_hDropWnd) != this)
+    if (CDragSession::EnabledTarget(m_hDropWnd) != this) {
         return 0;
+    }
     const std::optional<CString> text = ReadText(m_hDropWnd);
-    if (!text)
+    if (!text) {
         return 0;
+    }
     CDragSession::Offer offer;
     offer.strText = *text;
     offer.point = point;
@@ -79,13 +83,16 @@ int CDragDropSource::m_fnCopyDataToClipboard(CPoint& point) {
     const HWND hWnd = m_hDragWnd;
     CString strText;
     if (m_nDragEnabled == 0 || m_fnOnPrepareDragData_CF_TEXT(point, strText) != 1 ||
-        *static_cast<LPCSTR>(strText) == '\0')
+        *static_cast<LPCSTR>(strText) == '\0') {
         return 0;
+    }
     HGLOBAL hBlock = BlockOf(strText);
-    if (hBlock == nullptr)
+    if (!hBlock) {
         return 0;
-    if (PutOnClipboard(hWnd, hBlock))
+    }
+    if (PutOnClipboard(hWnd, hBlock)) {
         return 1;
+    }
     ::GlobalFree(hBlock);
     return 0;
 }

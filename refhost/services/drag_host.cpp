@@ -14,8 +14,9 @@ int DropText(HWND hWnd, POINT point, const std::string& text, UINT nFormat, DWOR
     const int nAnswer = nPhase == drop_phase::Drop
                             ? CDragSession::Drop(hWnd, offer, drop_effect::Copy | drop_effect::Move, dwEffect)
                             : CDragSession::Ask(hWnd, nPhase, offer, dwEffect);
-    if (pdwEffect != nullptr)
+    if (pdwEffect) {
         *pdwEffect = dwEffect;
+    }
     return nAnswer;
 }
 

@@ -23,32 +23,37 @@ std::unordered_map<HWND, Source>& Sources() {
 }
 
 HWND TopLevelOf(HWND hWnd) {
-    while (HWND hParent = drag_windows::ParentOfChild(hWnd))
+    while (HWND hParent = drag_windows::ParentOfChild(hWnd)) {
         hWnd = hParent;
+    }
     return hWnd;
 }
 
 HWND DeepestAt(HWND hWnd, POINT ptScreen) {
-    if (!::IsWindowVisible(hWnd))
+    if (!::IsWindowVisible(hWnd)) {
         return nullptr;
+    }
     for (;;) {
         POINT point = ptScreen;
         ::ScreenToClient(hWnd, &point);
         HWND hChild = ::ChildWindowFromPoint(hWnd, point);
-        if (hChild == nullptr || hChild == hWnd)
+        if (!hChild || hChild == hWnd) {
             return hChild;
+        }
         hWnd = hChild;
     }
 }
 
 LRESULT CALLBACK DragProc(HWND hWnd, UINT nMessage, WPARAM wParam, LPARAM lParam) {
     const auto source = Sources().find(hWnd);
-    if (source == Sources().end())
+    if (source == Sources().end()) {
         return ::DefWindowProcA(hWnd, nMessage, wParam, lParam);
+    }
     const WNDPROC pfnOwn = source->second.pfnOwn;
     CDragDropSource* const pSource = source->second.pSource;
-    if (pSource != nullptr && CDragSession::Handle(hWnd, pfnOwn, nMessage, wParam, lParam))
+    if (pSource && CDragSession::Handle(hWnd, pfnOwn, nMessage, wParam, lParam)) {
         return 0;
+    }
     if (nMessage == WM_NCDESTROY) {
         CDragSession::SourceGoes(pSource, hWnd);
         Sources().erase(hWnd);
@@ -69,8 +74,9 @@ void AddTarget(HWND hWnd, CDragDropTarget* pTarget) { Targets()[hWnd] = pTarget;
 
 void RemoveTarget(HWND hWnd, const CDragDropTarget* pTarget) {
     const auto target = Targets().find(hWnd);
-    if (target != Targets().end() && target->second == pTarget)
+    if (target != Targets().end() && target->second == pTarget) {
         Targets().erase(target);
+    }
 }
 
 CDragDropTarget* TargetOf(HWND hWnd) {
@@ -89,11 +95,13 @@ void AddSource(HWND hWnd, CDragDropSource* pSource) {
 
 void RemoveSource(HWND hWnd, const CDragDropSource* pSource) {
     const auto source = Sources().find(hWnd);
-    if (source == Sources().end() || source->second.pSource != pSource)
+    if (source == Sources().end() || source->second.pSource != pSource) {
         return;
+    }
     source->second.pSource = nullptr;
-    if (!IsOurs(hWnd))
+    if (!IsOurs(hWnd)) {
         return;
+    }
     ::SetWindowLongPtrA(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(source->second.pfnOwn));
     Sources().erase(source);
 }
@@ -105,8 +113,9 @@ CDragDropSource* SourceOf(HWND hWnd) {
 
 HWND WindowAt(HWND hFirst, POINT ptScreen) {
     HWND hFound = DeepestAt(TopLevelOf(hFirst), ptScreen);
-    for (auto target = Targets().begin(); hFound == nullptr && target != Targets().end(); ++target)
+    for (auto target = Targets().begin(); !hFound && target != Targets().end(); ++target) {
         hFound = DeepestAt(TopLevelOf(target->first), ptScreen);
+    }
     return hFound;
 }
 

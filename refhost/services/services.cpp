@@ -20,7 +20,7 @@ bool SameSize(const View& a, const View& b) { return a.width == b.width && a.hei
 
 /// Whether the buffer, unless it is 0 and may be, has pixels of that many bytes in the size of `like`.
 bool Fits(HBUF32 hBuf, const View& view, int nUnit, const View& like) {
-    return hBuf == 0 || (view.pixels != nullptr && view.unit == nUnit && SameSize(view, like));
+    return hBuf == 0 || (view.pixels && view.unit == nUnit && SameSize(view, like));
 }
 
 /// `from` moved toward `to` by `nShare` of `nWhole`, rounded.
@@ -34,10 +34,10 @@ void MergePixels(const MergeInput& in) {
     const std::size_t nPixels =
         static_cast<std::size_t>(in.out.width) * static_cast<std::size_t>(in.out.height);
     for (std::size_t i = 0; i < nPixels; ++i) {
-        const int nCover = in.mask.pixels != nullptr && in.extra.pixels != nullptr ? in.mask.pixels[i] : 255;
+        const int nCover = in.mask.pixels && in.extra.pixels ? in.mask.pixels[i] : 255;
         for (std::size_t at = i * 3; at < i * 3 + 3; ++at) {
-            const int under = in.extra.pixels != nullptr ? in.work.pixels[at] : 0;
-            const int over = in.extra.pixels != nullptr ? in.extra.pixels[at] : in.work.pixels[at];
+            const int under = in.extra.pixels ? in.work.pixels[at] : 0;
+            const int over = in.extra.pixels ? in.extra.pixels[at] : in.work.pixels[at];
             in.out.pixels[at] = Mixed(under, over, nCover * in.nPercent, 255 * 100);
         }
     }
@@ -53,13 +53,16 @@ int CGlobalAPI::m_fnMergeBuf(HBUF32 hOut, HBUF32 hWork, HBUF32 hExtra, int nPerc
     }
     const MergeInput in{buffer_host::Look(hOut), buffer_host::Look(hWork), buffer_host::Look(hExtra),
                         buffer_host::Look(hMask), nPercent};
-    if (in.out.pixels == nullptr || in.work.pixels == nullptr || nPercent < 0 || nPercent > 100)
+    if (!in.out.pixels || !in.work.pixels || nPercent < 0 || nPercent > 100) {
         return 0;
+    }
     if (!Fits(hOut, in.out, 3, in.out) || !Fits(hWork, in.work, 3, in.out) ||
-        !Fits(hExtra, in.extra, 3, in.out) || !Fits(hMask, in.mask, 1, in.out))
+        !Fits(hExtra, in.extra, 3, in.out) || !Fits(hMask, in.mask, 1, in.out)) {
         return 0;
-    if (platform::FaultTrips("merge"))
+    }
+    if (platform::FaultTrips("merge")) {
         return 0;
+    }
     MergePixels(in);
     return 1;
 }

@@ -8,8 +8,9 @@ class [[nodiscard]] CMemoryContext {
   public:
     CMemoryContext() : m_hDC(::CreateCompatibleDC(nullptr)) {}
     ~CMemoryContext() {
-        if (m_hDC != nullptr)
+        if (m_hDC) {
             ::DeleteDC(m_hDC);
+        }
     }
     CMemoryContext(const CMemoryContext&) = delete;
     CMemoryContext& operator=(const CMemoryContext&) = delete;

@@ -16,8 +16,9 @@ class [[nodiscard]] CLockScope {
   public:
     explicit CLockScope(HGLOBAL hBlock) : m_hBlock(hBlock), m_pBytes(::GlobalLock(hBlock)) {}
     ~CLockScope() {
-        if (m_pBytes != nullptr)
+        if (m_pBytes) {
             ::GlobalUnlock(m_hBlock);
+        }
     }
     CLockScope(const CLockScope&) = delete;
     CLockScope& operator=(const CLockScope&) = delete;
@@ -30,38 +31,40 @@ class [[nodiscard]] CLockScope {
 
 /// The runs that the record's block has room for; 0 when it is no block or shorter than a header.
 std::uint32_t RoomForRuns(const QXRICHEDITINFO* pInfo) {
-    HGLOBAL hRecord = pInfo != nullptr ? ::GlobalHandle(pInfo) : nullptr;
-    const std::size_t nSize = hRecord != nullptr ? ::GlobalSize(hRecord) : 0;
+    HGLOBAL hRecord = pInfo ? ::GlobalHandle(pInfo) : nullptr;
+    const std::size_t nSize = hRecord ? ::GlobalSize(hRecord) : 0;
     return nSize < RichTextHeaderSize
                ? 0
                : static_cast<std::uint32_t>((nSize - RichTextHeaderSize) / sizeof(QXRICHEDITRUN));
 }
 
 bool IsWhole(const QXRICHEDITINFO* pInfo) {
-    HGLOBAL hRecord = pInfo != nullptr ? ::GlobalHandle(pInfo) : nullptr;
-    return hRecord != nullptr && ::GlobalSize(hRecord) >= RichTextHeaderSize &&
-           pInfo->cbHeader == RichTextHeaderSize && pInfo->nRuns <= RoomForRuns(pInfo);
+    HGLOBAL hRecord = pInfo ? ::GlobalHandle(pInfo) : nullptr;
+    return hRecord && ::GlobalSize(hRecord) >= RichTextHeaderSize && pInfo->cbHeader == RichTextHeaderSize &&
+           pInfo->nRuns <= RoomForRuns(pInfo);
 }
 
 /// The bytes up to the first zero; false when there is none.
 bool ReadZeroTerminated(const char* pBytes, std::size_t nRoom, std::string& text) {
-    const void* pZero = pBytes != nullptr ? std::memchr(pBytes, 0, nRoom) : nullptr;
-    if (pZero == nullptr)
+    const void* pZero = pBytes ? std::memchr(pBytes, 0, nRoom) : nullptr;
+    if (!pZero) {
         return false;
+    }
     text.assign(pBytes, static_cast<const char*>(pZero));
     return true;
 }
 
 bool ReadBlock(RichTextBlock hText, std::string& text) {
     const CLockScope lock(BlockOf(hText));
-    return lock.Bytes() != nullptr && ReadZeroTerminated(lock.Bytes(), ::GlobalSize(BlockOf(hText)), text);
+    return lock.Bytes() && ReadZeroTerminated(lock.Bytes(), ::GlobalSize(BlockOf(hText)), text);
 }
 
 bool IsSize(std::int32_t nValue) { return nValue >= 0 && nValue <= LargestSize; }
 
 bool ReadRun(const QXRICHEDITRUN& from, RichTextRun& run) {
-    if (!IsSize(from.nHeight) || !IsSize(from.nAscent) || !IsSize(from.nDescent))
+    if (!IsSize(from.nHeight) || !IsSize(from.nAscent) || !IsSize(from.nDescent)) {
         return false;
+    }
     run.nHeight = from.nHeight;
     run.nAscent = from.nAscent;
     run.nDescent = from.nDescent;
@@ -75,20 +78,23 @@ bool ReadRun(const QXRICHEDITRUN& from, RichTextRun& run) {
 } // namespace
 
 void CHandleKiller::Kill(QXRICHEDITINFO* pInfo) {
-    HGLOBAL hRecord = pInfo != nullptr ? ::GlobalHandle(pInfo) : nullptr;
-    if (hRecord == nullptr)
+    HGLOBAL hRecord = pInfo ? ::GlobalHandle(pInfo) : nullptr;
+    if (!hRecord) {
         return;
+    }
     const std::uint32_t nRoom = RoomForRuns(pInfo);
     const std::uint32_t nRuns = nRoom != 0 ? std::min(pInfo->nRuns, nRoom) : 0;
-    for (std::uint32_t i = 0; i < nRuns; ++i)
+    for (std::uint32_t i = 0; i < nRuns; ++i) {
         ::GlobalFree(BlockOf(RichTextRuns(pInfo)[i].hText));
+    }
     ::GlobalFree(hRecord);
 }
 
 bool ReadRichText(const QXRICHEDITINFO* pInfo, std::vector<RichTextRun>& runs) {
     runs.clear();
-    if (!IsWhole(pInfo))
+    if (!IsWhole(pInfo)) {
         return false;
+    }
     runs.resize(pInfo->nRuns);
     for (std::uint32_t i = 0; i < pInfo->nRuns; ++i) {
         if (!ReadRun(RichTextRuns(pInfo)[i], runs[i])) {
@@ -101,22 +107,26 @@ bool ReadRichText(const QXRICHEDITINFO* pInfo, std::vector<RichTextRun>& runs) {
 
 bool RichTextToBytes(const QXRICHEDITINFO* pInfo, std::string& bytes) {
     bytes.clear();
-    if (pInfo == nullptr)
+    if (!pInfo) {
         return true;
+    }
     std::vector<RichTextRun> runs;
-    if (!ReadRichText(pInfo, runs))
+    if (!ReadRichText(pInfo, runs)) {
         return false;
+    }
     bytes.assign(reinterpret_cast<const char*>(pInfo), RichTextRecordSize(pInfo->nRuns));
-    for (const RichTextRun& run : runs)
+    for (const RichTextRun& run : runs) {
         bytes.append(run.text.c_str(), run.text.size() + 1);
+    }
     return true;
 }
 
 bool SaveRichText(const char* pszFile, const QXRICHEDITINFO* pInfo) {
     std::string bytes;
-    if (!RichTextToBytes(pInfo, bytes))
+    if (!RichTextToBytes(pInfo, bytes)) {
         return false;
+    }
     COutputFile file(pszFile);
-    return file.Stream() != nullptr &&
-           std::fwrite(bytes.data(), 1, bytes.size(), file.Stream()) == bytes.size() && file.Commit();
+    return file.Stream() && std::fwrite(bytes.data(), 1, bytes.size(), file.Stream()) == bytes.size() &&
+           file.Commit();
 }

@@ -71,15 +71,17 @@ void CTextEffectState::Reset(CTextNode& node) {
 }
 
 int CTextNode::m_fnCopyTextEffectFrom(const CTextNode* pOther) {
-    if (pOther == nullptr)
+    if (!pOther) {
         return 0;
+    }
     CTextEffectState::Set(*this, CTextEffectState::KindOf(*pOther), pOther->m_crEffect);
     return 1;
 }
 
 int CTextNode::m_fnChangeTextEffectColor(const COLORREF* pcrColor) {
-    if (pcrColor == nullptr)
+    if (!pcrColor) {
         return 0;
+    }
     m_crEffect = *pcrColor;
     return 1;
 }
@@ -89,19 +91,23 @@ int CTextNode::m_fnIsTextEffectApplied() const { return m_nEffect != 0; }
 int CTextNode::m_fnRegenerateTextEffect() {
     const View now = Look(NaturalMask(*this));
     const bool bApplied = m_fnIsTextEffectApplied() != 0;
-    if (now.pixels == nullptr || now.unit != 1 || (!bApplied && m_hTextMask == 0))
+    if (!now.pixels || now.unit != 1 || (!bApplied && m_hTextMask == 0)) {
         return 1;
+    }
     const View text = m_hTextMask != 0 ? Look(m_hTextMask) : now;
     EffectPicture picture;
     CBufferPtr kept(bApplied && m_hTextMask == 0 ? buf32DupBuf(NaturalMask(*this)) : 0);
     if ((bApplied && m_hTextMask == 0 && !kept) ||
-        !DrawTextEffect(CTextEffectState::KindOf(*this), {m_crText, m_crEffect}, text, m_nFontSize, picture))
+        !DrawTextEffect(CTextEffectState::KindOf(*this), {m_crText, m_crEffect}, text, m_nFontSize,
+                        picture)) {
         return 0;
+    }
     const CRect rcNext = PlaceFor(*this, now, Look(picture.mask.Get()),
                                   CSize(m_ptText.x - picture.ptText.x, m_ptText.y - picture.ptText.y));
     m_ptText = picture.ptText;
-    if (kept || !bApplied)
+    if (kept || !bApplied) {
         Exchange(m_hTextMask, kept.Release());
+    }
     Exchange(m_hTransSrcImage, 0);
     Exchange(m_hTransSrcMask, 0);
     SetImage(picture.image.Release(), picture.mask.Release(), m_tx.nX, m_tx.nY, 0);

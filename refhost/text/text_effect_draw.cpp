@@ -36,8 +36,9 @@ CBufferPtr WiderMask(const View& text, int nMargin) {
 
 /// out[x] becomes the stronger of itself and in[x]. Neither overlaps the other.
 void TakeStronger(std::uint8_t* pOut, const std::uint8_t* pIn, int nCount) {
-    for (int x = 0; x < nCount; ++x)
+    for (int x = 0; x < nCount; ++x) {
         pOut[x] = std::max(pOut[x], pIn[x]);
+    }
 }
 
 /// A pixel of a row that is not dark.
@@ -57,8 +58,9 @@ std::vector<std::vector<Lit>> EdgesOf(const View& text) {
         };
         for (int x = 0; x < text.width; ++x) {
             const std::uint8_t value = pRow[x];
-            if (value != 0 && std::min({at(x - 1, y), at(x + 1, y), at(x, y - 1), at(x, y + 1)}) < value)
+            if (value != 0 && std::min({at(x - 1, y), at(x + 1, y), at(x, y - 1), at(x, y + 1)}) < value) {
                 edges[static_cast<std::size_t>(y)].push_back({x, value});
+            }
         }
     }
     return edges;
@@ -70,8 +72,9 @@ class CSpanRow {
   public:
     CSpanRow(int nWidth, int nLongest) : m_nWidth(nWidth) {
         m_runs.resize(static_cast<std::size_t>(std::bit_width(static_cast<unsigned>(nLongest))));
-        for (std::vector<std::uint8_t>& runs : m_runs)
+        for (std::vector<std::uint8_t>& runs : m_runs) {
             runs.assign(static_cast<std::size_t>(nWidth), 0);
+        }
     }
 
     /// Each of the pixels over itself and its neighbours nBeside to both sides, which lie within the row when
@@ -111,8 +114,9 @@ std::vector<int> DiscRows(int nRadius) {
     std::vector<int> rows(static_cast<std::size_t>(nRadius) + 1);
     int dx = nRadius;
     for (int dy = 0; dy <= nRadius; ++dy) {
-        while (dx * dx + dy * dy > nRadius * nRadius + nRadius)
+        while (dx * dx + dy * dy > nRadius * nRadius + nRadius) {
             --dx;
+        }
         rows[static_cast<std::size_t>(dy)] = dx;
     }
     return rows;
@@ -127,12 +131,14 @@ void SpreadOverDisc(const View& mask, const View& text, int nMargin, int nRadius
     for (int y = nMargin - nRadius; y < mask.height - nMargin + nRadius; ++y) {
         const int nMiddle = y - nMargin;
         const int nLast = std::min(text.height - 1, nMiddle + nRadius);
-        for (int nRow = std::max(0, nMiddle - nRadius); nRow <= nLast; ++nRow)
+        for (int nRow = std::max(0, nMiddle - nRadius); nRow <= nLast; ++nRow) {
             spans.Add(edges[static_cast<std::size_t>(nRow)], nMargin,
                       disc[static_cast<std::size_t>(std::abs(nRow - nMiddle))]);
+        }
         spans.BringDown(mask.Row(y));
-        if (nMiddle >= 0 && nMiddle < text.height)
+        if (nMiddle >= 0 && nMiddle < text.height) {
             TakeStronger(mask.Row(y) + nMargin, text.Row(nMiddle), text.width);
+        }
     }
 }
 
@@ -140,8 +146,9 @@ void SpreadOverDisc(const View& mask, const View& text, int nMargin, int nRadius
 CBufferPtr SpreadMask(const View& text, int nMargin, int nRadius) {
     CBufferPtr mask = WiderMask(text, nMargin);
     try {
-        if (mask)
+        if (mask) {
             SpreadOverDisc(Look(mask.Get()), text, nMargin, nRadius);
+        }
     } catch (const std::bad_alloc&) {
         mask.Reset();
     }
@@ -152,8 +159,9 @@ CBufferPtr SpreadMask(const View& text, int nMargin, int nRadius) {
 bool Soften(CBufferPtr& mask, int nSoftness) {
     CTxParam block;
     block.hMask = mask.Get();
-    if (!sel32SoftEdgeMakeMask(&block, 0, nSoftness, 0, 0, 0, 0))
+    if (!sel32SoftEdgeMakeMask(&block, 0, nSoftness, 0, 0, 0, 0)) {
         return false;
+    }
     mask.Reset(block.hMask);
     return true;
 }
@@ -194,8 +202,9 @@ void AddLayer(const EffectPicture& picture, const View& layer, int nLeft, int nT
         std::uint8_t* pImage = image.Row(y + nTop) + 3 * nLeft;
         std::uint8_t* pMask = mask.Row(y + nTop) + nLeft;
         for (int x = 0; x < layer.width; ++x) {
-            if (pIn[x] != 0)
+            if (pIn[x] != 0) {
                 BlendPixel(pImage + 3 * x, pMask[x], pixel, pIn[x]);
+            }
         }
     }
 }
@@ -208,8 +217,9 @@ void AddEmboss(const EffectPicture& picture, const EffectColors& colors, const V
 
 bool AddOutline(const EffectPicture& picture, COLORREF color, const View& text, int nReach) {
     const CBufferPtr layer = SpreadMask(text, nReach, nReach);
-    if (!layer)
+    if (!layer) {
         return false;
+    }
     AddLayer(picture, Look(layer.Get()), 0, 0, color);
     return true;
 }
@@ -217,8 +227,9 @@ bool AddOutline(const EffectPicture& picture, COLORREF color, const View& text, 
 bool AddGlow(const EffectPicture& picture, COLORREF color, const View& text, int nReach) {
     // Half of the reach is solid, the rest fades.
     CBufferPtr layer = SpreadMask(text, nReach, nReach / 2);
-    if (!layer || !Soften(layer, nReach - nReach / 2))
+    if (!layer || !Soften(layer, nReach - nReach / 2)) {
         return false;
+    }
     AddLayer(picture, Look(layer.Get()), 0, 0, color);
     return true;
 }
@@ -227,8 +238,9 @@ bool AddGlow(const EffectPicture& picture, COLORREF color, const View& text, int
 
 HBUF32 MakeFlatImage(const View& mask, COLORREF color) {
     HBUF32 hImage = 0;
-    if (!buf32Alloc(&hImage, 24, mask.width, mask.height, 0, nullptr))
+    if (!buf32Alloc(&hImage, 24, mask.width, mask.height, 0, nullptr)) {
         return 0;
+    }
     const View image = Look(hImage);
     std::uint8_t* const pEnd = image.Row(image.height);
     for (std::uint8_t* pOut = image.pixels; pOut != pEnd; pOut += 3) {
@@ -244,18 +256,23 @@ bool DrawTextEffect(TextEffect effect, const EffectColors& colors, const View& t
     const int nReach = Reach(effect, nFontSize);
     picture.ptText = {nReach, nReach};
     picture.mask = WiderMask(text, nReach);
-    if (!picture.mask)
+    if (!picture.mask) {
         return false;
+    }
     const bool bPlain = effect == TextEffect::None;
     picture.image = CBufferPtr(MakeFlatImage(Look(picture.mask.Get()), bPlain ? colors.text : colors.effect));
-    if (!picture.image)
+    if (!picture.image) {
         return false;
-    if (effect == TextEffect::Outline && !AddOutline(picture, colors.effect, text, nReach))
+    }
+    if (effect == TextEffect::Outline && !AddOutline(picture, colors.effect, text, nReach)) {
         return false;
-    if (effect == TextEffect::Glow && !AddGlow(picture, colors.effect, text, nReach))
+    }
+    if (effect == TextEffect::Glow && !AddGlow(picture, colors.effect, text, nReach)) {
         return false;
-    if (effect == TextEffect::Emboss)
+    }
+    if (effect == TextEffect::Emboss) {
         AddEmboss(picture, colors, text, nReach);
+    }
     AddLayer(picture, text, nReach, nReach, colors.text);
     return true;
 }

@@ -17,8 +17,9 @@
 namespace {
 
 void Record(const textCreate::textCreateParam& param) {
-    if (!trace::IsOn())
+    if (!trace::IsOn()) {
         return;
+    }
     const auto number = [](std::int32_t nValue) { return static_cast<long long>(nValue); };
     trace::Call("text-engine", "Apply",
                 {std::string(param.strFontName), std::string(param.strText), number(param.nPixelSize),
@@ -42,8 +43,9 @@ void Empty(textObject& object) {
 /// The runs to draw; false for a record without text.
 bool ReadRuns(const textCreate::textCreateParam& param, std::vector<RichTextRun>& runs) {
     if (!ReadRichText(param.richText.Get(), runs) ||
-        std::all_of(runs.begin(), runs.end(), [](const RichTextRun& run) { return run.text.empty(); }))
+        std::all_of(runs.begin(), runs.end(), [](const RichTextRun& run) { return run.text.empty(); })) {
         return false;
+    }
     for (RichTextRun& run : runs) {
         // A record's sizes went through twips and may have lost a pixel on the way.
         run.nHeight = std::abs(param.nPixelSize - run.nHeight) == 1 ? param.nPixelSize : run.nHeight;
@@ -57,8 +59,9 @@ bool ReadRuns(const textCreate::textCreateParam& param, std::vector<RichTextRun>
 
 CString JoinedByLineFeeds(const CString& strText) {
     std::string text(strText, static_cast<std::size_t>(strText.GetLength()));
-    for (std::size_t at = text.find("\n\r"); at != std::string::npos; at = text.find("\n\r", at + 1))
+    for (std::size_t at = text.find("\n\r"); at != std::string::npos; at = text.find("\n\r", at + 1)) {
         text.erase(at + 1, 1);
+    }
     return CString(text.data(), static_cast<int>(text.size()));
 }
 
@@ -73,7 +76,7 @@ bool DrawCoverage(const CTextLayout& layout, const buffer_host::View& mask) {
     info.bmiHeader.biBitCount = 32;
     void* pBits = nullptr;
     HBITMAP hBitmap = ::CreateDIBSection(context.Get(), &info, DIB_RGB_COLORS, &pBits, nullptr, 0);
-    if (context.Get() == nullptr || hBitmap == nullptr) {
+    if (!context.Get() || !hBitmap) {
         ::DeleteObject(hBitmap);
         return false;
     }
@@ -96,8 +99,9 @@ bool DrawCoverage(const CTextLayout& layout, const buffer_host::View& mask) {
 HBUF32 MakeMask(const CTextLayout& layout) {
     HBUF32 hMask = 0;
     const SIZE size = layout.PictureSize();
-    if (!buf32Alloc(&hMask, 8, size.cx, size.cy, 0, nullptr))
+    if (!buf32Alloc(&hMask, 8, size.cx, size.cy, 0, nullptr)) {
         return 0;
+    }
     CBufferPtr mask(hMask);
     return DrawCoverage(layout, buffer_host::Look(hMask)) ? mask.Release() : 0;
 }
@@ -122,12 +126,15 @@ int textCreate::Apply(const textCreateParam& param, textObject& object) {
     Empty(object);
     std::vector<RichTextRun> runs;
     CTextLayout layout;
-    if (platform::FaultTrips("text-engine") || !ReadRuns(param, runs) || !layout.Make(runs, param.nAlignCode))
+    if (platform::FaultTrips("text-engine") || !ReadRuns(param, runs) ||
+        !layout.Make(runs, param.nAlignCode)) {
         return 0;
+    }
     CBufferPtr mask(MakeMask(layout));
     CBufferPtr image(mask ? MakeFlatImage(buffer_host::Look(mask.Get()), param.crText) : 0);
-    if (!image)
+    if (!image) {
         return 0;
+    }
     object.m_hMask = mask.Release();
     object.m_hImage = image.Release();
     // The first line's own corner is the engine's origin.

@@ -30,8 +30,9 @@ int WidthOf(HDC hDC, const std::string& text) {
 CTextLayout::CTextLayout() = default;
 
 CTextLayout::~CTextLayout() {
-    for (const Font& font : m_fonts)
+    for (const Font& font : m_fonts) {
         ::DeleteObject(font.hFont);
+    }
 }
 
 POINT CTextLayout::Origin() const { return {m_fonts.empty() ? 0 : m_fonts.front().nBlank, RowMargin}; }
@@ -39,8 +40,9 @@ POINT CTextLayout::Origin() const { return {m_fonts.empty() ? 0 : m_fonts.front(
 bool CTextLayout::Make(const std::vector<RichTextRun>& runs, int nAlignCode) {
     m_nAlignCode = nAlignCode;
     const CMemoryContext context;
-    if (context.Get() == nullptr || !MakeFonts(context.Get(), runs))
+    if (!context.Get() || !MakeFonts(context.Get(), runs)) {
         return false;
+    }
     Break(runs);
     return Measure(context.Get());
 }
@@ -49,8 +51,9 @@ bool CTextLayout::MakeFonts(HDC hDC, const std::vector<RichTextRun>& runs) {
     for (const RichTextRun& run : runs) {
         Font font;
         font.hFont = MakeFont(run);
-        if (font.hFont == nullptr)
+        if (!font.hFont) {
             return false;
+        }
         m_fonts.push_back(font);
         const CSelectScope selected(hDC, font.hFont);
         TEXTMETRICA metrics{};
@@ -83,8 +86,9 @@ void CTextLayout::Break(const std::vector<RichTextRun>& runs) {
 }
 
 void CTextLayout::AddPiece(std::size_t nFont, const std::string& text) {
-    if (!text.empty())
+    if (!text.empty()) {
         m_lines.back().pieces.push_back({nFont, 0, text});
+    }
 }
 
 bool CTextLayout::IsPicture() const {
@@ -95,12 +99,14 @@ bool CTextLayout::IsPicture() const {
 // Asked after each line and piece, long before a sum overflows.
 bool CTextLayout::Measure(HDC hDC) {
     for (Line& line : m_lines) {
-        if (!MeasureLine(hDC, line))
+        if (!MeasureLine(hDC, line)) {
             return false;
+        }
         m_nWidth = std::max(m_nWidth, line.nWidth);
         m_nHeight += line.nAscent + line.nDescent;
-        if (!IsPicture())
+        if (!IsPicture()) {
             return false;
+        }
     }
     return true;
 }
@@ -115,8 +121,9 @@ bool CTextLayout::MeasureLine(HDC hDC, Line& line) {
         const CSelectScope selected(hDC, font.hFont);
         piece.nWidth = WidthOf(hDC, piece.text);
         line.nWidth += piece.nWidth;
-        if (line.nWidth > LargestSide)
+        if (line.nWidth > LargestSide) {
             return false;
+        }
         line.nAscent = std::max(line.nAscent, font.nAscent);
         line.nDescent = std::max(line.nDescent, font.nDescent);
     }
@@ -133,8 +140,9 @@ int CTextLayout::LineLeft(const Line& line) const {
 
 void CTextLayout::Draw(HDC hDC) const {
     int nTop = Origin().y;
-    for (const Line& line : m_lines)
+    for (const Line& line : m_lines) {
         nTop = DrawLine(hDC, line, nTop);
+    }
 }
 
 int CTextLayout::DrawLine(HDC hDC, const Line& line, int nTop) const {

@@ -28,16 +28,19 @@ bool IsView(HWND window) { return dynamic_cast<CVorView*>(CWnd::FromHandlePerman
 class CWindowObserver : public platform::IObserver {
   public:
     void OnInvalidate(HWND window, const RECT* rect, BOOL erase) override {
-        if (!IsOn() || !IsView(window))
+        if (!IsOn() || !IsView(window)) {
             return;
-        if (rect != nullptr)
+        }
+        if (rect) {
             Call("view", "InvalidateRect", {*rect, static_cast<long long>(erase)});
-        else
+        } else {
             Call("view", "InvalidateRect", {Pointer{false}, static_cast<long long>(erase)});
+        }
     }
     void OnWaitCursor(int change) override {
-        if (IsOn())
+        if (IsOn()) {
             Call("cursor", change > 0 ? "BeginWaitCursor" : "EndWaitCursor");
+        }
     }
 };
 
@@ -70,13 +73,15 @@ void TurnOn(bool bOn) {
 }
 
 void Call(const char* pszOn, const char* pszOp, std::initializer_list<Value> args) {
-    if (IsOn())
+    if (IsOn()) {
         Record().rows.push_back({pszOn, {}, pszOp, args});
+    }
 }
 
 void BusCall(const std::string& on, const GUID& iface, int nOp, std::initializer_list<Value> args) {
-    if (IsOn())
+    if (IsOn()) {
         Record().rows.push_back({on, GuidText(iface), std::to_string(nOp), args});
+    }
 }
 
 std::vector<Row> Take() { return std::exchange(Record().rows, {}); }

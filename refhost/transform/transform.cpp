@@ -9,8 +9,9 @@ namespace {
 LONG Truncated(double dValue) {
     constexpr double Low = std::numeric_limits<LONG>::min();
     constexpr double High = std::numeric_limits<LONG>::max();
-    if (std::isnan(dValue))
+    if (std::isnan(dValue)) {
         return 0;
+    }
     return static_cast<LONG>(std::clamp(dValue, Low, High));
 }
 
@@ -34,8 +35,9 @@ void CTxParam::SetOrWH(int nWidthOrg, int nHeightOrg, int /*nKeep*/) {
 }
 
 int PtInBound(CTxPoint& point, CTxPoint* pCorners) {
-    if (pCorners == nullptr || !InBounds(point, pCorners))
+    if (!pCorners || !InBounds(point, pCorners)) {
         return 0;
+    }
     bool bPositive = false;
     bool bNegative = false;
     for (int i = 0; i < 4; ++i) {
@@ -47,11 +49,13 @@ int PtInBound(CTxPoint& point, CTxPoint* pCorners) {
 }
 
 void GetBoundRect(CTxPoint* pPoints, int nCount, RECT* pRect) {
-    if (pRect == nullptr)
+    if (!pRect) {
         return;
+    }
     *pRect = RECT{0, 0, 0, 0};
-    if (pPoints == nullptr || nCount <= 0)
+    if (!pPoints || nCount <= 0) {
         return;
+    }
     const auto byX = [](const CTxPoint& a, const CTxPoint& b) { return a.x < b.x; };
     const auto byY = [](const CTxPoint& a, const CTxPoint& b) { return a.y < b.y; };
     const auto [left, right] = std::minmax_element(pPoints, pPoints + nCount, byX);

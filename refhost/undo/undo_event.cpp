@@ -44,8 +44,9 @@ void CUndoEvent::Free() {}
 void CUndoEvent::Cancel() {}
 
 void CUndoEvent::GetRedrawRect(CRect* pRect) {
-    if (pRect != nullptr)
+    if (pRect) {
         pRect->SetRectEmpty();
+    }
 }
 
 void CUndoEvent::GetRedrawRect(CRect& rect) { GetRedrawRect(&rect); }

@@ -5,20 +5,22 @@
 namespace {
 
 void DestroyAll(CUndoEventList& events) {
-    while (!events.IsEmpty())
+    while (!events.IsEmpty()) {
         delete events.RemoveHead();
+    }
 }
 
 /// Puts an event where its owner keeps it; what finds no room is destroyed.
 BOOL Keep(POSITION position, CUndoEvent* pEvent) {
-    if (position == nullptr)
+    if (!position) {
         delete pEvent;
+    }
     return position != nullptr;
 }
 
 CUndoEvent* EventAt(const CUndoEventList& events, int nIndex) {
     const POSITION position = events.FindIndex(nIndex);
-    return position != nullptr ? events.GetAt(position) : nullptr;
+    return position ? events.GetAt(position) : nullptr;
 }
 
 } // namespace
@@ -28,13 +30,16 @@ CUndoMgr::CUndoMgr() = default;
 CUndoMgr::~CUndoMgr() { Clear(); }
 
 BOOL CUndoMgr::AddUndoEvent(CUndoEvent*& pEvent, BOOL bRecord) {
-    if (pEvent == nullptr)
+    if (!pEvent) {
         return FALSE;
-    if (trace::IsOn())
+    }
+    if (trace::IsOn()) {
         trace::Call("undo", "AddUndoEvent",
                     {pEvent->GetRuntimeClass()->m_lpszClassName, static_cast<long long>(bRecord)});
-    if (m_pPack != nullptr)
+    }
+    if (m_pPack) {
         return Keep(m_pPack->AddTail(pEvent), pEvent);
+    }
     DestroyAll(m_redo);
     if (!m_undo.IsEmpty() && m_undo.GetHead()->IsAccumulating() && m_undo.GetHead()->Accumulate(pEvent)) {
         delete pEvent;
@@ -44,23 +49,27 @@ BOOL CUndoMgr::AddUndoEvent(CUndoEvent*& pEvent, BOOL bRecord) {
 }
 
 void CUndoMgr::BeginPackUndoEvent(CUndoEventList* pList) {
-    if (trace::IsOn())
+    if (trace::IsOn()) {
         trace::Call("undo", "BeginPackUndoEvent");
-    if (m_pPack == nullptr)
+    }
+    if (!m_pPack) {
         m_pPack = pList;
+    }
 }
 
 CUndoEventList* CUndoMgr::EndPackUndoEvent() {
-    if (trace::IsOn())
+    if (trace::IsOn()) {
         trace::Call("undo", "EndPackUndoEvent");
+    }
     CUndoEventList* pPack = m_pPack;
     m_pPack = nullptr;
     return pPack;
 }
 
 BOOL CUndoMgr::Undo() {
-    if (m_undo.IsEmpty())
+    if (m_undo.IsEmpty()) {
         return FALSE;
+    }
     CUndoEvent* pEvent = m_undo.RemoveHead();
     const BOOL bRestored = pEvent->Undo();
     Keep(m_redo.AddHead(pEvent), pEvent);
@@ -68,8 +77,9 @@ BOOL CUndoMgr::Undo() {
 }
 
 BOOL CUndoMgr::Redo() {
-    if (m_redo.IsEmpty())
+    if (m_redo.IsEmpty()) {
         return FALSE;
+    }
     CUndoEvent* pEvent = m_redo.RemoveHead();
     const BOOL bRestored = pEvent->Redo();
     Keep(m_undo.AddHead(pEvent), pEvent);

@@ -101,15 +101,17 @@ TEST(Buffer, ACopyHasPixelsOfItsOwn) {
 TEST(Buffer, TheCountFollowsAThousandBuffersAndNoFailedOne) {
     const std::size_t nBefore = buffer_host::BufferCount();
     std::vector<HBUF32> handles;
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         handles.push_back(Alloc(8, 1, 1));
+    }
     {
         const CFaultScope fault("buffer");
         EXPECT_EQ(0, Alloc(8, 1, 1));
         EXPECT_EQ(0, buf32DupBuf(handles[0]));
     }
     EXPECT_EQ(nBefore + 1000, buffer_host::BufferCount());
-    for (const HBUF32 hBuf : handles)
+    for (const HBUF32 hBuf : handles) {
         EXPECT_EQ(1, buf32Free(hBuf));
+    }
     EXPECT_EQ(nBefore, buffer_host::BufferCount());
 }

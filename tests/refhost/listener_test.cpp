@@ -27,8 +27,9 @@ class CPart : public CBusObject, public IPing {
     }
     void Ping() override {
         ++nPings;
-        if (onPing)
+        if (onPing) {
             onPing();
+        }
     }
     int nPings = 0;
     std::function<void()> onPing;
@@ -38,19 +39,21 @@ class CPart : public CBusObject, public IPing {
 std::vector<CListenerObject*> Found(CListenerObject& seeker, int nKind) {
     std::vector<CListenerObject*> found;
     seeker.m_fnSetCommunicateObjectType(CategoryId, nKind);
-    for (CListenerObject* pFound = seeker.m_fnFirst(); pFound != nullptr; pFound = seeker.m_fnNext())
+    for (CListenerObject* pFound = seeker.m_fnFirst(); pFound; pFound = seeker.m_fnNext()) {
         found.push_back(pFound);
+    }
     return found;
 }
 
 /// Reaches every object of the kind as a broadcast does: the filter is set again after each call.
 void Broadcast(CGlobalObjectManager& manager, int nKind) {
     manager.m_fnSetCommunicateObjectType(CategoryId, nKind);
-    for (CListenerObject* pFound = manager.m_fnFirst(); pFound != nullptr;) {
+    for (CListenerObject* pFound = manager.m_fnFirst(); pFound;) {
         void* pInterface = nullptr;
         pFound->QueryInterface(IPing::Id, &pInterface, nullptr);
-        if (pInterface != nullptr)
+        if (pInterface) {
             static_cast<IPing*>(pInterface)->Ping();
+        }
         manager.m_fnSetCommunicateObjectType(CategoryId, nKind);
         manager.m_fnSetCommunicateObjectCurrentSearchPosAt(pFound);
         pFound = manager.m_fnNext();
@@ -62,8 +65,9 @@ void Broadcast(CGlobalObjectManager& manager, int nKind) {
 TEST(Listener, FindsTargetsOfTheKindInLinkOrder) {
     CListenerObject seeker;
     CPart a(5), b(6), c(5);
-    for (CPart* pPart : {&a, &b, &c})
+    for (CPart* pPart : {&a, &b, &c}) {
         seeker.m_fnAddTargetObject(pPart);
+    }
 
     EXPECT_EQ((std::vector<CListenerObject*>{&a, &c}), Found(seeker, 5));
     EXPECT_EQ((std::vector<CListenerObject*>{&b}), Found(seeker, 6));
@@ -94,8 +98,9 @@ TEST(Listener, TargetsThatLeaveOrJoinDuringASearchSkipNobody) {
     CListenerObject seeker;
     auto pFirst = std::make_unique<CPart>(5);
     CPart second(5), third(5), late(5);
-    for (CPart* pPart : {pFirst.get(), &second, &third})
+    for (CPart* pPart : {pFirst.get(), &second, &third}) {
         seeker.m_fnAddTargetObject(pPart);
+    }
     seeker.m_fnSetCommunicateObjectType(CategoryId, 5);
     ASSERT_EQ(pFirst.get(), seeker.m_fnFirst());
 
@@ -147,8 +152,9 @@ TEST(Listener, TheBaseAnswersNoAndClearsItsOutputs) {
 TEST(GlobalManager, ABroadcastWhoseCalleeSearchesTheManagerReachesEachOnce) {
     CGlobalObjectManager& manager = *CGlobalObjectManager::m_fnGetGlobalObjectManager();
     CPart a(38), b(38), c(38), other(45);
-    for (CPart* pPart : {&a, &b, &c, &other})
+    for (CPart* pPart : {&a, &b, &c, &other}) {
         manager.m_fnAddTargetObject(pPart);
+    }
     b.onPing = [&] { Found(manager, 45); };
 
     Broadcast(manager, 38);

@@ -29,8 +29,9 @@ class NodeList : public ::testing::Test {
 
 std::string OpsOf(const std::vector<trace::Row>& rows) {
     std::string ops;
-    for (const trace::Row& row : rows)
+    for (const trace::Row& row : rows) {
         ops += row.on + ":" + row.op + " ";
+    }
     return ops;
 }
 
@@ -58,8 +59,9 @@ TEST_F(NodeList, ANodeSelectedTwiceIsFoundAtItsFirstPlace) {
 TEST_F(NodeList, ADestroyedNodeLeavesBothListsAtEveryPlace) {
     CImgNode* pA = Box();
     CImgNode* pB = Box();
-    for (CImgNode* pNode : {pA, pB, pA})
+    for (CImgNode* pNode : {pA, pB, pA}) {
         Selection().AddTail(pNode);
+    }
 
     delete pA;
 
@@ -104,8 +106,9 @@ TEST_F(NodeList, ANodeMadeWithoutADocumentIsTakenOver) {
 TEST_F(NodeList, KeysAscendAfterThousandsOfInsertionsAtOnePlace) {
     Box();
     CImgNode* pFixed = Box();
-    for (int i = 0; i < 5000; ++i)
+    for (int i = 0; i < 5000; ++i) {
         Objects().InsertAfter(Objects().Find(pFixed), new CImgNode(&doc));
+    }
 
     EXPECT_EQ(5002, Objects().GetCount());
     EXPECT_TRUE(KeysAscend());
@@ -116,21 +119,24 @@ TEST_F(NodeList, KeysAscendAfterRandomShuffling) {
     SCOPED_TRACE("seed " + std::to_string(nSeed));
     std::mt19937 random(nSeed);
     std::vector<CImgNode*> nodes;
-    for (int i = 0; i < 40; ++i)
+    for (int i = 0; i < 40; ++i) {
         nodes.push_back(Box());
+    }
 
     for (int i = 0; i < 3000; ++i) {
         CImgNode* pNode = nodes[random() % nodes.size()];
         CImgNode* pOther = nodes[random() % nodes.size()];
-        if (random() % 4 == 0)
+        if (random() % 4 == 0) {
             Objects().AddHead(pNode);
-        else
+        } else {
             Objects().InsertBefore(Objects().Find(pOther), pNode);
+        }
         // Every node is now in the list once or twice; the later place goes, or the earlier.
         const POSITION first = Objects().Find(pNode);
         const POSITION second = Objects().CPtrList::Find(pNode, first);
-        if (second != nullptr)
+        if (second) {
             Objects().RemoveAt(random() % 2 == 0 ? first : second);
+        }
         ASSERT_TRUE(KeysAscend()) << "step " << i;
     }
     EXPECT_EQ(40, Objects().GetCount());

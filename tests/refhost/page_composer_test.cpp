@@ -116,8 +116,9 @@ TEST(PageComposer, APartIsByteForByteThatOfTheWholeAndNothingElseIsTouched) {
     const auto upto = [&](int nLimit) { return static_cast<int>(random() % static_cast<unsigned>(nLimit)); };
     const auto noise = [&](HBUF32 hBuf) {
         const buffer_host::View view = buffer_host::Look(hBuf);
-        for (std::size_t i = 0; i < view.RowBytes() * static_cast<std::size_t>(view.height); ++i)
+        for (std::size_t i = 0; i < view.RowBytes() * static_cast<std::size_t>(view.height); ++i) {
             view.pixels[i] = static_cast<std::uint8_t>(random() % 3 == 0 ? 255 : random());
+        }
         return hBuf;
     };
     CVorDoc doc(60, 50);
@@ -129,9 +130,10 @@ TEST(PageComposer, APartIsByteForByteThatOfTheWholeAndNothingElseIsTouched) {
             AddPicture(doc, noise(Solid(0, nWidth, nHeight)),
                        i % 3 == 0 ? 0 : noise(Mask(nWidth, nHeight, {})), upto(70) - 10, upto(60) - 10);
         pNode->m_fnUpdateBCAndT(upto(3) * 20, upto(2) * 30, upto(3) * 40);
-        if (i % 2 == 0)
+        if (i % 2 == 0) {
             pNode->m_fnResize(CRect(pNode->m_tx.nX, pNode->m_tx.nY, pNode->m_tx.nX + 1 + upto(30),
                                     pNode->m_tx.nY + 1 + upto(30)));
+        }
     }
     for (const ViewMap& map : {ViewMap{1.0, {3, 5}}, ViewMap{1.5, {3, 5}}, ViewMap{0.75, {-4, 2}}, Plain}) {
         const Canvas whole = Composed(doc, 90, 70, map);
@@ -141,9 +143,10 @@ TEST(PageComposer, APartIsByteForByteThatOfTheWholeAndNothingElseIsTouched) {
             CPageComposer composer;
             composer.Compose(&doc, map, canvas.Target(), part);
             for (int y = 0; y < 70; ++y) {
-                for (int x = 0; x < 90; ++x)
+                for (int x = 0; x < 90; ++x) {
                     ASSERT_EQ(part.PtInRect(CPoint(x, y)) ? whole.At(x, y) : 0x00ABCDEFu, canvas.At(x, y))
                         << "zoom " << map.dZoom << " at " << x << " " << y;
+                }
             }
         }
     }
@@ -169,15 +172,19 @@ TEST(Blend, LongRowsAreMixedAsShortOnes) {
     std::vector<std::uint32_t> target(Count);
     std::vector<std::uint8_t> source(Count * 3 + 4);
     std::vector<std::uint8_t> mask(Count);
-    for (auto& value : target)
+    for (auto& value : target) {
         value = random() & 0xFFFFFF;
-    for (auto& value : source)
+    }
+    for (auto& value : source) {
         value = static_cast<std::uint8_t>(random());
-    for (std::size_t i = 0; i < Count; ++i)
+    }
+    for (std::size_t i = 0; i < Count; ++i) {
         mask[i] = static_cast<std::uint8_t>(i < 300 ? 1 + i % 254 : i < 600 ? 255 : random());
+    }
     std::vector<std::uint32_t> single = target;
-    for (std::size_t i = 0; i < Count; ++i)
+    for (std::size_t i = 0; i < Count; ++i) {
         blend::MaskRow(&single[i], &source[i * 3], &mask[i], 1);
+    }
 
     blend::MaskRow(target.data(), source.data(), mask.data(), Count);
 

@@ -25,8 +25,9 @@ std::uint32_t Crc(const Bytes& bytes) {
     std::uint32_t crc = 0xFFFFFFFF;
     for (const char byte : bytes) {
         crc ^= static_cast<std::uint8_t>(byte);
-        for (int bit = 0; bit < 8; ++bit)
+        for (int bit = 0; bit < 8; ++bit) {
             crc = crc >> 1 ^ ((crc & 1) != 0 ? 0xEDB88320 : 0);
+        }
     }
     return ~crc;
 }
@@ -230,8 +231,9 @@ TEST_F(PictureFile, WhatCannotBeWrittenLeavesWhatHadTheName) {
     setrlimit(RLIMIT_FSIZE, &full);
     EXPECT_FALSE(SaveBufferPng(name.c_str(), picture.image.Get(), error));
     setrlimit(RLIMIT_FSIZE, &former);
-    for (const std::string& file : {link, Bytes("/dev/null")})
+    for (const std::string& file : {link, Bytes("/dev/null")}) {
         EXPECT_TRUE(!SaveBufferPng(file.c_str(), picture.image.Get(), error) && IsOneLine()) << file;
+    }
     unlink(link.c_str());
     EXPECT_TRUE(LoadPicture(name.c_str(), picture, error) && At(0, 0) == 0x112233u) << error;
 }
@@ -242,8 +244,9 @@ TEST_F(PictureFile, AScaledSolidStaysSolid) {
     for (const CSize& size : {CSize(3, 2), CSize(20, 31), CSize(1, 1)}) {
         ASSERT_TRUE(ScalePicture(solid, size.cx, size.cy, picture));
         EXPECT_EQ(size.cx, picture.width);
-        for (int i = 0; i < size.cx * size.cy; ++i)
+        for (int i = 0; i < size.cx * size.cy; ++i) {
             ASSERT_EQ(0xC86432u, At(i % size.cx, i / size.cx)) << size.cx << " at " << i;
+        }
     }
     EXPECT_FALSE(ScalePicture(solid, 0, 5, picture));
     EXPECT_FALSE(ScalePicture(solid, 32768, 5, picture));

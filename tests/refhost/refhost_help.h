@@ -52,8 +52,9 @@ inline HBUF32 Mask(int nWidth, int nHeight, std::initializer_list<std::uint8_t> 
     HBUF32 hBuf = 0;
     buf32Alloc(&hBuf, 8, nWidth, nHeight, 1, nullptr);
     std::uint8_t* pOut = buffer_host::Look(hBuf).pixels;
-    for (const std::uint8_t value : values)
+    for (const std::uint8_t value : values) {
         *pOut++ = value;
+    }
     return hBuf;
 }
 
@@ -74,8 +75,9 @@ inline CImgNode* AddPicture(CImgDoc& doc, HBUF32 hImage, HBUF32 hMask, int x, in
 
 inline std::vector<CImgNode*> NodesOf(const CImgNodeList& list) {
     std::vector<CImgNode*> nodes;
-    for (POSITION position = list.GetHeadPosition(); position != nullptr;)
+    for (POSITION position = list.GetHeadPosition(); position;) {
         nodes.push_back(list.GetNext(position));
+    }
     return nodes;
 }
 

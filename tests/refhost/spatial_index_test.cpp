@@ -19,8 +19,9 @@ Nodes BruteForce(CVorDoc& doc, const CRect& area) {
         CRect rect;
         pNode->GetBoundRect(&rect);
         CRect common;
-        if (common.IntersectRect(&rect, &area))
+        if (common.IntersectRect(&rect, &area)) {
             found.push_back(pNode);
+        }
     }
     return found;
 }
@@ -54,8 +55,9 @@ TEST(SpatialIndex, AnswersAsALookAtEveryNodeThroughMovesStackingAndRemovals) {
     SCOPED_TRACE("seed " + std::to_string(nSeed));
     RandomPage page(nSeed);
     CVorDoc doc(100, 100);
-    for (int i = 0; i < 300; ++i)
+    for (int i = 0; i < 300; ++i) {
         AddBox(doc, page.Rect());
+    }
 
     for (int i = 0; i < 2000; ++i) {
         const Nodes nodes = NodesOf(*doc.GetObjList());

@@ -77,8 +77,9 @@ TEST_F(Effects, AnEdgeOfThePictureBelongsToTheEffectAndTheTextStandsInIt) {
         CTextNode* const pNode = With(Dot(row.nCover), row.effect);
 
         EXPECT_EQ(row.mask, BytesOf(pNode->m_tx.hMask));
-        for (int n = 0; n < 3; ++n)
+        for (int n = 0; n < 3; ++n) {
             EXPECT_EQ(row.diagonal[static_cast<std::size_t>(n)], PixelAt(*pNode, n, n));
+        }
         EXPECT_TRUE(RectOf(pNode) == CRect(9, 19, 12, 22));
     }
 }
@@ -116,8 +117,9 @@ TEST_F(Effects, EveryEffectIsDrawnFromTheTextAlone) {
     const std::vector<std::uint8_t> glow = BytesOf(With(Dot(), TextEffect::Glow)->m_tx.hMask);
 
     for (const TextEffect effect :
-         {TextEffect::Outline, TextEffect::Emboss, TextEffect::Glow, TextEffect::Glow})
+         {TextEffect::Outline, TextEffect::Emboss, TextEffect::Glow, TextEffect::Glow}) {
         With(pNode, effect);
+    }
     EXPECT_EQ(glow, BytesOf(pNode->m_tx.hMask));
     EXPECT_TRUE(RectOf(pNode) == CRect(7, 17, 14, 24));
 
@@ -209,7 +211,7 @@ TEST_F(Effects, MovingTakesAllButIdentityAndPlaceInTheLists) {
     EXPECT_EQ(TextEffect::Emboss, CTextEffectState::KindOf(*pOld));
     EXPECT_EQ(pFrame, pOld->m_pFrameNode);
     EXPECT_EQ(pOld, pFrame->m_pOwner);
-    EXPECT_TRUE(pNew->m_hImage == 0 && pNew->m_tx.hMask == 0 && pNew->m_pFrameNode == nullptr);
+    EXPECT_TRUE(pNew->m_hImage == 0 && pNew->m_tx.hMask == 0 && !pNew->m_pFrameNode);
     // The old picture and the text below its effect are gone.
     EXPECT_EQ(nBuffers - 3, buffer_host::BufferCount());
     std::vector<CImgNode*> found;

@@ -76,8 +76,9 @@ class CPaper {
     }
     std::vector<std::uint8_t> Coverage() const {
         std::vector<std::uint8_t> coverage;
-        for (int i = 0; i < m_nWidth * m_nHeight; ++i)
+        for (int i = 0; i < m_nWidth * m_nHeight; ++i) {
             coverage.push_back(static_cast<std::uint8_t>(m_pPixels[i]));
+        }
         return coverage;
     }
 
@@ -112,8 +113,9 @@ TEST(TextEngine, ThePictureIsTheLinesWithABlankAndAPixelRoundThem) {
     EXPECT_EQ(3, image.unit);
     EXPECT_TRUE(image.width == mask.width && image.height == mask.height);
     const std::vector<std::uint8_t> pixels = BytesOf(object.m_hImage);
-    for (std::size_t i = 0; i < pixels.size(); i += 3)
+    for (std::size_t i = 0; i < pixels.size(); i += 3) {
         ASSERT_TRUE(pixels[i] == 10 && pixels[i + 1] == 128 && pixels[i + 2] == 255);
+    }
     EXPECT_TRUE(object.m_ptOrigin == CPoint(-nBlank, -1));
 }
 
@@ -261,8 +263,9 @@ TEST(TextEngine, ItsParametersStandInTheTraceInOrder) {
     EXPECT_EQ("Arial", std::get<std::string>(rows[0].args[0]));
     EXPECT_EQ("text", std::get<std::string>(rows[0].args[1]));
     std::vector<long long> numbers;
-    for (const std::size_t i : {2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14})
+    for (const std::size_t i : {2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14}) {
         numbers.push_back(std::get<long long>(rows[0].args[i]));
+    }
     EXPECT_EQ((std::vector<long long>{16, 0, 0, 0, 1, 0, 1000, 0, 0, 0, -1, -1}), numbers);
     EXPECT_EQ(Orange, std::get<trace::Color>(rows[0].args[9]).value);
     EXPECT_TRUE(std::get<trace::Pointer>(rows[0].args[15]).present);

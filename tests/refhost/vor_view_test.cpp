@@ -92,8 +92,9 @@ TEST_F(VorView, ConversionsStopAtTheLimitsOf32BitsAndABadZoomIsRefused) {
     CViewHost::SetAll(view, 8, 6, 1.0, CPoint(INT_MIN, INT_MAX));
     EXPECT_EQ(CPoint(INT_MAX, INT_MIN), ToClient(5, -5));
 
-    for (const double dZoom : {0.0, -1.0, HUGE_VAL})
+    for (const double dZoom : {0.0, -1.0, HUGE_VAL}) {
         EXPECT_FALSE(CViewHost::SetZoom(view, dZoom));
+    }
 }
 
 TEST_F(VorView, ARectangleConvertsByItsCorners) {

@@ -98,7 +98,7 @@ void CListCore<TYPE, ARG_TYPE>::AddHead(CListCore* pNewList) {
     CNode* pNode = pNewList->m_pNodeTail;
     // Counted, so that a list added to itself ends.
     for (int n = pNewList->m_nCount; n > 0; --n, pNode = pNode->pPrev) {
-        if (AddHead(pNode->data) == nullptr) {
+        if (!AddHead(pNode->data)) {
             return;
         }
     }
@@ -108,7 +108,7 @@ template <class TYPE, class ARG_TYPE>
 void CListCore<TYPE, ARG_TYPE>::AddTail(CListCore* pNewList) {
     CNode* pNode = pNewList->m_pNodeHead;
     for (int n = pNewList->m_nCount; n > 0; --n, pNode = pNode->pNext) {
-        if (AddTail(pNode->data) == nullptr) {
+        if (!AddTail(pNode->data)) {
             return;
         }
     }
@@ -116,7 +116,7 @@ void CListCore<TYPE, ARG_TYPE>::AddTail(CListCore* pNewList) {
 
 template <class TYPE, class ARG_TYPE>
 void CListCore<TYPE, ARG_TYPE>::RemoveAll() {
-    for (CNode* pNode = m_pNodeHead; pNode != nullptr;) {
+    for (CNode* pNode = m_pNodeHead; pNode;) {
         CNode* const pNext = pNode->pNext;
         pNode->~CNode();
         pNode = pNext;
@@ -124,7 +124,7 @@ void CListCore<TYPE, ARG_TYPE>::RemoveAll() {
     m_pNodeHead = m_pNodeTail = nullptr;
     m_nCount = 0;
     m_pNodeFree = nullptr;
-    if (m_pBlocks != nullptr) {
+    if (m_pBlocks) {
         m_pBlocks->FreeDataChain();
     }
     m_pBlocks = nullptr;
@@ -139,7 +139,7 @@ void CListCore<TYPE, ARG_TYPE>::RemoveAt(POSITION position) {
 
 template <class TYPE, class ARG_TYPE>
 POSITION CListCore<TYPE, ARG_TYPE>::InsertBefore(POSITION position, ARG_TYPE newElement) {
-    if (position == nullptr) {
+    if (!position) {
         return AddHead(newElement);
     }
     CNode* const pNext = NodeAt(position);
@@ -148,7 +148,7 @@ POSITION CListCore<TYPE, ARG_TYPE>::InsertBefore(POSITION position, ARG_TYPE new
 
 template <class TYPE, class ARG_TYPE>
 POSITION CListCore<TYPE, ARG_TYPE>::InsertAfter(POSITION position, ARG_TYPE newElement) {
-    if (position == nullptr) {
+    if (!position) {
         return AddTail(newElement);
     }
     CNode* const pPrev = NodeAt(position);
@@ -157,8 +157,8 @@ POSITION CListCore<TYPE, ARG_TYPE>::InsertAfter(POSITION position, ARG_TYPE newE
 
 template <class TYPE, class ARG_TYPE>
 POSITION CListCore<TYPE, ARG_TYPE>::Find(ARG_TYPE searchValue, POSITION startAfter) const {
-    CNode* pNode = startAfter == nullptr ? m_pNodeHead : NodeAt(startAfter)->pNext;
-    while (pNode != nullptr && !(pNode->data == searchValue)) {
+    CNode* pNode = !startAfter ? m_pNodeHead : NodeAt(startAfter)->pNext;
+    while (pNode && !(pNode->data == searchValue)) {
         pNode = pNode->pNext;
     }
     return PositionOf(pNode);
@@ -179,7 +179,7 @@ POSITION CListCore<TYPE, ARG_TYPE>::FindIndex(int nIndex) const {
 template <class TYPE, class ARG_TYPE>
 BOOL CListCore<TYPE, ARG_TYPE>::AddBlock() {
     CPlex* const pBlock = CPlex::Create(m_pBlocks, static_cast<UINT>(m_nBlockSize), sizeof(CNode));
-    if (pBlock == nullptr) {
+    if (!pBlock) {
         return FALSE;
     }
     auto* const pStorage = static_cast<std::byte*>(pBlock->data());
@@ -191,14 +191,14 @@ BOOL CListCore<TYPE, ARG_TYPE>::AddBlock() {
 
 template <class TYPE, class ARG_TYPE>
 POSITION CListCore<TYPE, ARG_TYPE>::Insert(CNode* pPrev, CNode* pNext, ARG_TYPE newElement) {
-    if (m_pNodeFree == nullptr && !AddBlock()) {
+    if (!m_pNodeFree && !AddBlock()) {
         return nullptr;
     }
     CFreeNode* const pStorage = m_pNodeFree;
     m_pNodeFree = pStorage->pNext;
     CNode* const pNode = ::new (static_cast<void*>(pStorage)) CNode{pNext, pPrev, TYPE(newElement)};
-    (pPrev != nullptr ? pPrev->pNext : m_pNodeHead) = pNode;
-    (pNext != nullptr ? pNext->pPrev : m_pNodeTail) = pNode;
+    (pPrev ? pPrev->pNext : m_pNodeHead) = pNode;
+    (pNext ? pNext->pPrev : m_pNodeTail) = pNode;
     ++m_nCount;
     return PositionOf(pNode);
 }
@@ -214,8 +214,8 @@ TYPE CListCore<TYPE, ARG_TYPE>::Take(CNode* pNode) {
 
 template <class TYPE, class ARG_TYPE>
 void CListCore<TYPE, ARG_TYPE>::Unlink(CNode* pNode) {
-    (pNode->pPrev != nullptr ? pNode->pPrev->pNext : m_pNodeHead) = pNode->pNext;
-    (pNode->pNext != nullptr ? pNode->pNext->pPrev : m_pNodeTail) = pNode->pPrev;
+    (pNode->pPrev ? pNode->pPrev->pNext : m_pNodeHead) = pNode->pNext;
+    (pNode->pNext ? pNode->pNext->pPrev : m_pNodeTail) = pNode->pPrev;
 }
 
 template <class TYPE, class ARG_TYPE>

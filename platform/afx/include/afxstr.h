@@ -81,7 +81,7 @@ class CString {
     friend CString operator+(char a, const CString& b) { return CString(a) += b; }
 
   private:
-    static LPCSTR TextOf(LPCSTR lpsz) { return lpsz != nullptr ? lpsz : ""; }
+    static LPCSTR TextOf(LPCSTR lpsz) { return lpsz ? lpsz : ""; }
 
     std::string m_text;
 };

@@ -8,7 +8,7 @@ IMPLEMENT_DYNAMIC(CWinApp, CCmdTarget)
 
 CWinApp::CWinApp(LPCSTR lpszAppName) : m_pszAppName(lpszAppName) {
     AFX_MODULE_STATE* const pState = AfxGetModuleState();
-    if (pState->m_pCurrentWinApp == nullptr) {
+    if (!pState->m_pCurrentWinApp) {
         pState->m_pCurrentWinApp = this;
     }
 }
@@ -50,12 +50,12 @@ CWinApp* AfxGetApp() { return AfxGetModuleState()->m_pCurrentWinApp; }
 
 HINSTANCE AfxGetInstanceHandle() {
     const HINSTANCE hInstance = AfxGetModuleState()->m_hCurrentInstanceHandle;
-    return hInstance != nullptr ? hInstance : ::GetModuleHandleA(nullptr);
+    return hInstance ? hInstance : ::GetModuleHandleA(nullptr);
 }
 
 HINSTANCE AfxGetResourceHandle() {
     const HINSTANCE hInstance = AfxGetModuleState()->m_hCurrentResourceHandle;
-    return hInstance != nullptr ? hInstance : AfxGetInstanceHandle();
+    return hInstance ? hInstance : AfxGetInstanceHandle();
 }
 
 void AfxSetResourceHandle(HINSTANCE hInstResource) {

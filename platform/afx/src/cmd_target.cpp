@@ -10,11 +10,15 @@ const AFX_MSGMAP* CCmdTarget::GetThisMessageMap() {
 
 const AFX_MSGMAP* CCmdTarget::GetMessageMap() const { return GetThisMessageMap(); }
 
-static void DoWaitCursor(int nCode) {
+namespace {
+
+void DoWaitCursor(int nCode) {
     if (CWinApp* const pApp = AfxGetApp()) {
         pApp->DoWaitCursor(nCode);
     }
 }
+
+} // namespace
 
 void CCmdTarget::BeginWaitCursor() { DoWaitCursor(1); }
 

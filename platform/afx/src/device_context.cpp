@@ -7,11 +7,15 @@ IMPLEMENT_DYNCREATE(CDC, CObject)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 
+namespace {
+
 // Never torn down: objects of static life leave it as the process ends.
-static auto& Map() {
+auto& Map() {
     static auto& map = *new afx::CHandleMap<CDC, &CDC::m_hDC>;
     return map;
 }
+
+} // namespace
 
 CDC::~CDC() { DeleteDC(); }
 
@@ -34,9 +38,7 @@ BOOL CDC::AttachNew(HDC hDC) {
     return FALSE;
 }
 
-BOOL CDC::CreateCompatibleDC(CDC* pDC) {
-    return AttachNew(::CreateCompatibleDC(pDC != nullptr ? pDC->m_hDC : nullptr));
-}
+BOOL CDC::CreateCompatibleDC(CDC* pDC) { return AttachNew(::CreateCompatibleDC(pDC ? pDC->m_hDC : nullptr)); }
 
 BOOL CDC::CreateDC(LPCSTR lpszDriverName, LPCSTR lpszDeviceName, LPCSTR lpszOutput, LPCVOID lpInitData) {
     return AttachNew(
@@ -48,25 +50,25 @@ BOOL CDC::CreateIC(LPCSTR lpszDriverName, LPCSTR lpszDeviceName, LPCSTR lpszOutp
         ::CreateICA(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODEA*>(lpInitData)));
 }
 
-BOOL CDC::DeleteDC() { return m_hDC != nullptr && ::DeleteDC(Detach()); }
+BOOL CDC::DeleteDC() { return m_hDC && ::DeleteDC(Detach()); }
 
 CPen* CDC::SelectObject(CPen* pPen) {
-    const HGDIOBJ hPen = pPen != nullptr ? pPen->m_hObject : nullptr;
+    const HGDIOBJ hPen = pPen ? pPen->m_hObject : nullptr;
     return CPen::FromHandle(static_cast<HPEN>(::SelectObject(m_hDC, hPen)));
 }
 
 CBrush* CDC::SelectObject(CBrush* pBrush) {
-    const HGDIOBJ hBrush = pBrush != nullptr ? pBrush->m_hObject : nullptr;
+    const HGDIOBJ hBrush = pBrush ? pBrush->m_hObject : nullptr;
     return CBrush::FromHandle(static_cast<HBRUSH>(::SelectObject(m_hDC, hBrush)));
 }
 
 CBitmap* CDC::SelectObject(CBitmap* pBitmap) {
-    const HGDIOBJ hBitmap = pBitmap != nullptr ? pBitmap->m_hObject : nullptr;
+    const HGDIOBJ hBitmap = pBitmap ? pBitmap->m_hObject : nullptr;
     return CBitmap::FromHandle(static_cast<HBITMAP>(::SelectObject(m_hDC, hBitmap)));
 }
 
 CFont* CDC::SelectObject(CFont* pFont) {
-    const HGDIOBJ hFont = pFont != nullptr ? pFont->m_hObject : nullptr;
+    const HGDIOBJ hFont = pFont ? pFont->m_hObject : nullptr;
     return CFont::FromHandle(static_cast<HFONT>(::SelectObject(m_hDC, hFont)));
 }
 
@@ -75,12 +77,16 @@ CGdiObject* CDC::SelectStockObject(int nIndex) {
 }
 
 // The point that one of the system's functions tells through its last parameter.
+namespace {
+
 template <class FUNCTION, class... VALUES>
-static CPoint Told(FUNCTION pfn, HDC hDC, VALUES... values) {
+CPoint Told(FUNCTION pfn, HDC hDC, VALUES... values) {
     CPoint point;
     pfn(hDC, values..., &point);
     return point;
 }
+
+} // namespace
 
 CPoint CDC::SetViewportOrg(int x, int y) { return Told(::SetViewportOrgEx, m_hDC, x, y); }
 
@@ -101,7 +107,7 @@ CPoint CDC::MoveTo(int x, int y) { return Told(::MoveToEx, m_hDC, x, y); }
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
     SetBkColor(clr);
     CBrush brush(clr);
-    if (brush.m_hObject != nullptr) {
+    if (brush.m_hObject) {
         FillRect(lpRect, &brush);
     }
 }
@@ -112,28 +118,28 @@ CSize CDC::GetTextExtent(LPCSTR lpszString, int nCount) const {
     return size;
 }
 
-CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd != nullptr ? pWnd->m_hWnd : nullptr) {
+CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd ? pWnd->m_hWnd : nullptr) {
     const HDC hDC = ::GetDC(m_hWnd);
-    if (!Attach(hDC) && hDC != nullptr) {
+    if (!Attach(hDC) && hDC) {
         ::ReleaseDC(m_hWnd, hDC);
     }
 }
 
 CClientDC::~CClientDC() {
-    if (m_hDC != nullptr) {
+    if (m_hDC) {
         ::ReleaseDC(m_hWnd, Detach());
     }
 }
 
 CPaintDC::CPaintDC(CWnd* pWnd) : m_ps(), m_hWnd(pWnd->m_hWnd) {
     const HDC hDC = ::BeginPaint(m_hWnd, &m_ps);
-    if (!Attach(hDC) && hDC != nullptr) {
+    if (!Attach(hDC) && hDC) {
         ::EndPaint(m_hWnd, &m_ps);
     }
 }
 
 CPaintDC::~CPaintDC() {
-    if (m_hDC != nullptr) {
+    if (m_hDC) {
         Detach();
         ::EndPaint(m_hWnd, &m_ps);
     }

@@ -3,14 +3,14 @@
 IMPLEMENT_DYNAMIC(CDocument, CCmdTarget)
 
 CDocument::~CDocument() {
-    for (POSITION pos = GetFirstViewPosition(); pos != nullptr;) {
+    for (POSITION pos = GetFirstViewPosition(); pos;) {
         GetNextView(pos)->m_pDocument = nullptr;
     }
 }
 
 void CDocument::AddView(CView* pView) {
     ASSERT(pView->m_pDocument == nullptr);
-    if (m_viewList.AddTail(pView) != nullptr) {
+    if (m_viewList.AddTail(pView)) {
         pView->m_pDocument = this;
     }
 }
@@ -27,7 +27,7 @@ CView* CDocument::GetNextView(POSITION& rPosition) const {
 }
 
 void CDocument::UpdateAllViews(CView* pSender, LPARAM lHint, CObject* pHint) {
-    for (POSITION pos = GetFirstViewPosition(); pos != nullptr;) {
+    for (POSITION pos = GetFirstViewPosition(); pos;) {
         CView* const pView = GetNextView(pos);
         if (pView != pSender) {
             pView->OnUpdate(pSender, lHint, pHint);

@@ -6,8 +6,12 @@
 
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
 
+namespace {
+
 // Constant-initialised: classes are entered before any constructor of this library need have run.
-static constinit AFX_MODULE_STATE g_moduleState = {};
+constinit AFX_MODULE_STATE g_moduleState = {};
+
+} // namespace
 
 AFX_MODULE_STATE* AfxGetModuleState() { return &g_moduleState; }
 
@@ -16,12 +20,16 @@ void AfxClassInit(CRuntimeClass* pNewClass) {
     g_moduleState.m_classList.m_pHead = pNewClass;
 }
 
-static CRuntimeClass* FindClass(CRuntimeClass* pClass, LPCSTR lpszClassName) {
-    while (pClass != nullptr && std::strcmp(pClass->m_lpszClassName, lpszClassName) != 0) {
+namespace {
+
+CRuntimeClass* FindClass(CRuntimeClass* pClass, LPCSTR lpszClassName) {
+    while (pClass && std::strcmp(pClass->m_lpszClassName, lpszClassName) != 0) {
         pClass = pClass->m_pNextClass;
     }
     return pClass;
 }
+
+} // namespace
 
 CRuntimeClass* CRuntimeClass::FromName(LPCSTR lpszClassName) {
     const AFX_MODULE_STATE& state = g_moduleState;
@@ -31,8 +39,7 @@ CRuntimeClass* CRuntimeClass::FromName(LPCSTR lpszClassName) {
     if (CRuntimeClass* const pClass = FindClass(state.m_pClassInit, lpszClassName)) {
         return pClass;
     }
-    for (const CDynLinkLibrary* pDLL = state.m_libraryList.GetHead(); pDLL != nullptr;
-         pDLL = pDLL->m_pNextDLL) {
+    for (const CDynLinkLibrary* pDLL = state.m_libraryList.GetHead(); pDLL; pDLL = pDLL->m_pNextDLL) {
         if (CRuntimeClass* const pClass = FindClass(pDLL->m_classList.GetHead(), lpszClassName)) {
             return pClass;
         }
@@ -59,8 +66,10 @@ struct CEnteredLists {
     COleObjectFactory* pFirstFactory = nullptr;
 };
 
+namespace {
+
 // Takes what was entered since the raw start and puts the lists from before it back.
-static CEnteredLists TakeEntered() {
+CEnteredLists TakeEntered() {
     AFX_MODULE_STATE& state = g_moduleState;
     if (!state.m_bRawStart) {
         return {};
@@ -73,6 +82,8 @@ static CEnteredLists TakeEntered() {
     state.m_pFactoryInit = nullptr;
     return entered;
 }
+
+} // namespace
 
 BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule) {
     const CEnteredLists entered = TakeEntered();
@@ -95,7 +106,7 @@ void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll) {
     if (!state.bInitialized) {
         return;
     }
-    for (CDynLinkLibrary* pDLL = g_moduleState.m_libraryList.GetHead(); pDLL != nullptr;) {
+    for (CDynLinkLibrary* pDLL = g_moduleState.m_libraryList.GetHead(); pDLL;) {
         CDynLinkLibrary* const pNextDLL = pDLL->m_pNextDLL;
         if (bAll || pDLL->m_hModule == state.hModule) {
             delete pDLL;
@@ -112,7 +123,7 @@ CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state)
 
 CDynLinkLibrary::~CDynLinkLibrary() {
     CDynLinkLibrary** ppLink = &g_moduleState.m_libraryList.m_pHead;
-    while (*ppLink != nullptr && *ppLink != this) {
+    while (*ppLink && *ppLink != this) {
         ppLink = &(*ppLink)->m_pNextDLL;
     }
     if (*ppLink == this) {

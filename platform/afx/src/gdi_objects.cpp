@@ -8,23 +8,33 @@ IMPLEMENT_DYNCREATE(CBrush, CGdiObject)
 IMPLEMENT_DYNCREATE(CBitmap, CGdiObject)
 IMPLEMENT_DYNCREATE(CFont, CGdiObject)
 
+namespace {
+
 // The tables are never torn down: objects of static life leave them as the process ends.
-static auto& Map() {
+auto& Map() {
     static auto& map = *new afx::CHandleMap<CGdiObject, &CGdiObject::m_hObject>;
     return map;
 }
 
+} // namespace
+
 // A temporary object is of the type that was asked for.
+namespace {
+
 template <class TYPE>
-static auto& Temporary() {
+auto& Temporary() {
     static auto& objects = *new afx::CTempObjects<TYPE, &CGdiObject::m_hObject>;
     return objects;
 }
 
+} // namespace
+
 // A handle's own object counts only where it is of the type asked for.
+namespace {
+
 template <class TYPE>
-static TYPE* ObjectOf(HGDIOBJ hObject) {
-    if (hObject == nullptr) {
+TYPE* ObjectOf(HGDIOBJ hObject) {
+    if (!hObject) {
         return nullptr;
     }
     if (TYPE* const pOwn = dynamic_cast<TYPE*>(Map().Lookup(hObject))) {
@@ -32,6 +42,8 @@ static TYPE* ObjectOf(HGDIOBJ hObject) {
     }
     return Temporary<TYPE>().FromHandle(hObject);
 }
+
+} // namespace
 
 CGdiObject* CGdiObject::FromHandle(HGDIOBJ hObject) { return ObjectOf<CGdiObject>(hObject); }
 
@@ -66,7 +78,7 @@ BOOL CGdiObject::AttachNew(HGDIOBJ hObject) {
 
 HGDIOBJ CGdiObject::Detach() { return Map().Detach(this); }
 
-BOOL CGdiObject::DeleteObject() { return m_hObject != nullptr && ::DeleteObject(Detach()); }
+BOOL CGdiObject::DeleteObject() { return m_hObject && ::DeleteObject(Detach()); }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
     return AttachNew(::CreateCompatibleBitmap(pDC->m_hDC, nWidth, nHeight));
@@ -81,10 +93,10 @@ BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientatio
 }
 
 BOOL CFont::CreatePointFont(int nPointSize, LPCSTR lpszFaceName, CDC* pDC) {
-    const HDC hDC = pDC != nullptr ? pDC->m_hDC : ::GetDC(nullptr);
+    const HDC hDC = pDC ? pDC->m_hDC : ::GetDC(nullptr);
     constexpr int TenthsInAnInch = 720;
     const int nHeight = -MulDiv(nPointSize, ::GetDeviceCaps(hDC, LOGPIXELSY), TenthsInAnInch);
-    if (pDC == nullptr) {
+    if (!pDC) {
         ::ReleaseDC(nullptr, hDC);
     }
     return AttachNew(

@@ -55,7 +55,7 @@ class CPointerTable {
 template <class TYPE>
 std::size_t CPointerTable<TYPE>::SlotOf(const void* handle) const {
     std::size_t slot = HomeOf(handle);
-    while (m_entries[slot].handle != nullptr && m_entries[slot].handle != handle) {
+    while (m_entries[slot].handle && m_entries[slot].handle != handle) {
         slot = Behind(slot);
     }
     return slot;
@@ -74,7 +74,7 @@ BOOL CPointerTable<TYPE>::Set(const void* handle, TYPE* pObject) {
 
 template <class TYPE>
 void CPointerTable<TYPE>::Remove(const void* handle, const TYPE* pObject) {
-    if (Lookup(handle) != pObject || pObject == nullptr) {
+    if (Lookup(handle) != pObject || !pObject) {
         return;
     }
     const std::size_t slot = SlotOf(handle);
@@ -87,7 +87,7 @@ void CPointerTable<TYPE>::Remove(const void* handle, const TYPE* pObject) {
 template <class TYPE>
 void CPointerTable<TYPE>::CloseGap(std::size_t gap) {
     const std::size_t mask = m_nCapacity - 1;
-    for (std::size_t slot = Behind(gap); m_entries[slot].handle != nullptr; slot = Behind(slot)) {
+    for (std::size_t slot = Behind(gap); m_entries[slot].handle; slot = Behind(slot)) {
         const std::size_t home = HomeOf(m_entries[slot].handle);
         if (((slot - home) & mask) >= ((slot - gap) & mask)) {
             m_entries[gap] = m_entries[slot];
@@ -108,7 +108,7 @@ BOOL CPointerTable<TYPE>::Grow() {
     m_entries.swap(old);
     m_nCapacity = nNewCapacity;
     for (std::size_t slot = 0; slot < nOldCapacity; ++slot) {
-        if (old[slot].handle != nullptr) {
+        if (old[slot].handle) {
             m_entries[SlotOf(old[slot].handle)] = old[slot];
         }
     }
@@ -122,7 +122,7 @@ void CPointerTable<TYPE>::Drain(VISIT visit) {
     const std::size_t nCapacity = m_nCapacity;
     m_nCapacity = m_nCount = 0;
     for (std::size_t slot = 0; slot < nCapacity; ++slot) {
-        if (entries[slot].pObject != nullptr) {
+        if (entries[slot].pObject) {
             visit(entries[slot].pObject);
         }
     }
@@ -140,7 +140,7 @@ class CTempObjects {
             return pKnown;
         }
         TYPE* const pObject = new TYPE;
-        if (pObject == nullptr) {
+        if (!pObject) {
             return nullptr;
         }
         if (!m_table.Set(handle, pObject)) {
@@ -182,12 +182,12 @@ class CHandleMap {
     template <class HANDLE_TYPE>
     TYPE* FromHandle(HANDLE_TYPE handle) {
         TYPE* const pOwn = m_permanent.Lookup(handle);
-        return pOwn != nullptr || handle == nullptr ? pOwn : m_temporary.FromHandle(handle);
+        return pOwn || !handle ? pOwn : m_temporary.FromHandle(handle);
     }
 
     template <class HANDLE_TYPE>
     BOOL Attach(HANDLE_TYPE handle, TYPE* pObject) {
-        if (handle == nullptr || !m_permanent.Set(handle, pObject)) {
+        if (!handle || !m_permanent.Set(handle, pObject)) {
             return FALSE;
         }
         pObject->*FIELD = handle;

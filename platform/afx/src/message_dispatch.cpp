@@ -3,9 +3,9 @@
 
 #include "window_creation.h"
 
-static MSG* g_pCurrentMessage = nullptr;
-
 namespace {
+
+MSG* g_pCurrentMessage = nullptr;
 
 class [[nodiscard]] CCurrentMessageScope {
   public:
@@ -24,10 +24,10 @@ class [[nodiscard]] CCurrentMessageScope {
 
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
     CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
-    if (pWnd == nullptr) {
+    if (!pWnd) {
         pWnd = afx::CCreationScope::Bind(hWnd);
     }
-    if (pWnd == nullptr) {
+    if (!pWnd) {
         return ::DefWindowProcA(hWnd, message, wParam, lParam);
     }
     return AfxCallWndProc(pWnd, hWnd, message, wParam, lParam);
@@ -40,7 +40,7 @@ LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT message, WPARAM wParam, LPARA
 }
 
 const MSG* CWnd::GetCurrentMessage() {
-    if (g_pCurrentMessage != nullptr) {
+    if (g_pCurrentMessage) {
         g_pCurrentMessage->time = static_cast<DWORD>(::GetMessageTime());
         g_pCurrentMessage->pt = CPoint(static_cast<LPARAM>(::GetMessagePos()));
     }
@@ -49,11 +49,11 @@ const MSG* CWnd::GetCurrentMessage() {
 
 LRESULT CWnd::Default() {
     const MSG* const pMessage = g_pCurrentMessage;
-    return pMessage != nullptr ? DefWindowProc(pMessage->message, pMessage->wParam, pMessage->lParam) : 0;
+    return pMessage ? DefWindowProc(pMessage->message, pMessage->wParam, pMessage->lParam) : 0;
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (m_pfnSuper != nullptr) {
+    if (m_pfnSuper) {
         return ::CallWindowProcA(m_pfnSuper, m_hWnd, message, wParam, lParam);
     }
     return ::DefWindowProcA(m_hWnd, message, wParam, lParam);
@@ -65,42 +65,50 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return OnWndMsg(message, wParam, lParam, &result) ? result : DefWindowProc(message, wParam, lParam);
 }
 
-static const AFX_MSGMAP_ENTRY* FindInTable(const AFX_MSGMAP_ENTRY* pEntry, UINT message) {
+namespace {
+
+const AFX_MSGMAP_ENTRY* FindInTable(const AFX_MSGMAP_ENTRY* pEntry, UINT message) {
     while (pEntry->nSig != AfxSig_end && pEntry->nMessage != message) {
         ++pEntry;
     }
     return pEntry->nSig != AfxSig_end ? pEntry : nullptr;
 }
 
-static const AFX_MSGMAP_ENTRY* FindEntry(const AFX_MSGMAP* pMap, UINT message) {
+const AFX_MSGMAP_ENTRY* FindEntry(const AFX_MSGMAP* pMap, UINT message) {
     while (true) {
         if (const AFX_MSGMAP_ENTRY* const pEntry = FindInTable(pMap->lpEntries, message)) {
             return pEntry;
         }
-        if (pMap->pfnGetBaseMap == nullptr) {
+        if (!pMap->pfnGetBaseMap) {
             return nullptr;
         }
         pMap = pMap->pfnGetBaseMap();
     }
 }
 
+} // namespace
+
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     const AFX_MSGMAP_ENTRY* const pEntry = FindEntry(GetMessageMap(), message);
-    if (pEntry == nullptr) {
+    if (!pEntry) {
         return FALSE;
     }
     const LRESULT result = CallHandler(*pEntry, wParam, lParam);
-    if (pResult != nullptr) {
+    if (pResult) {
         *pResult = result;
     }
     return TRUE;
 }
 
-static UINT LowWord(LPARAM lParam) { return LOWORD(static_cast<ULONG_PTR>(lParam)); }
+namespace {
 
-static UINT HighWord(LPARAM lParam) { return HIWORD(static_cast<ULONG_PTR>(lParam)); }
+UINT LowWord(LPARAM lParam) { return LOWORD(static_cast<ULONG_PTR>(lParam)); }
 
-static CWnd* WindowOf(ULONG_PTR parameter) { return CWnd::FromHandle(reinterpret_cast<HWND>(parameter)); }
+UINT HighWord(LPARAM lParam) { return HIWORD(static_cast<ULONG_PTR>(lParam)); }
+
+CWnd* WindowOf(ULONG_PTR parameter) { return CWnd::FromHandle(reinterpret_cast<HWND>(parameter)); }
+
+} // namespace
 
 // The context is the sender's: the object around it goes without deleting it, and is in no table.
 BOOL CWnd::CallEraseBkgnd(BOOL (CWnd::*pfn)(CDC*), HDC hDC) {

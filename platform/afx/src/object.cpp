@@ -15,7 +15,7 @@ BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const { return GetRuntimeCla
 BOOL CObject::IsSerializable() const { return GetRuntimeClass()->m_wSchema != 0xFFFF; }
 
 CObject* CRuntimeClass::CreateObject() const {
-    if (m_pfnCreateObject == nullptr) {
+    if (!m_pfnCreateObject) {
         return nullptr;
     }
     // A constructor that runs out of memory must not throw into the module that asked.
@@ -28,12 +28,12 @@ CObject* CRuntimeClass::CreateObject() const {
 
 BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const {
     const CRuntimeClass* pClass = this;
-    while (pClass != nullptr && pClass != pBaseClass) {
+    while (pClass && pClass != pBaseClass) {
         pClass = pClass->m_pBaseClass;
     }
     return pClass != nullptr;
 }
 
 CObject* AfxDynamicDownCast(const CRuntimeClass* pClass, CObject* pObject) {
-    return pObject != nullptr && pObject->IsKindOf(pClass) ? pObject : nullptr;
+    return pObject && pObject->IsKindOf(pClass) ? pObject : nullptr;
 }

@@ -5,20 +5,24 @@
 #include <cstring>
 #include <utility>
 
-static char ToLower(char ch) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch - 'A' + 'a') : ch; }
+namespace {
 
-static char ToUpper(char ch) { return ch >= 'a' && ch <= 'z' ? static_cast<char>(ch - 'a' + 'A') : ch; }
+char ToLower(char ch) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch - 'A' + 'a') : ch; }
 
-static constexpr const char* WhiteSpace = " \t\n\v\f\r";
+char ToUpper(char ch) { return ch >= 'a' && ch <= 'z' ? static_cast<char>(ch - 'a' + 'A') : ch; }
 
-static int SignOf(int difference) { return (difference > 0) - (difference < 0); }
+constexpr const char* WhiteSpace = " \t\n\v\f\r";
 
-static int IndexOf(std::string::size_type position) {
+int SignOf(int difference) { return (difference > 0) - (difference < 0); }
+
+int IndexOf(std::string::size_type position) {
     return position == std::string::npos ? -1 : static_cast<int>(position);
 }
 
+} // namespace
+
 CString::CString(LPCSTR lpch, int nLength) {
-    if (lpch != nullptr && nLength > 0) {
+    if (lpch && nLength > 0) {
         m_text.assign(lpch, static_cast<std::size_t>(nLength));
     }
 }

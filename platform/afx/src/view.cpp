@@ -9,13 +9,13 @@ ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 CView::~CView() {
-    if (m_pDocument != nullptr) {
+    if (m_pDocument) {
         m_pDocument->RemoveView(this);
     }
 }
 
 BOOL CView::PreCreateWindow(CREATESTRUCT& cs) {
-    if (cs.lpszClass == nullptr) {
+    if (!cs.lpszClass) {
         const HBRUSH hbrWindow = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
         cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorA(nullptr, IDC_ARROW), hbrWindow);
     }
@@ -29,7 +29,7 @@ int CView::OnCreate(LPCREATESTRUCT lpcs) {
         return -1;
     }
     const auto* const pContext = static_cast<const CCreateContext*>(lpcs->lpCreateParams);
-    if (pContext != nullptr && pContext->m_pCurrentDoc != nullptr) {
+    if (pContext && pContext->m_pCurrentDoc) {
         pContext->m_pCurrentDoc->AddView(this);
     }
     return 0;
@@ -37,7 +37,7 @@ int CView::OnCreate(LPCREATESTRUCT lpcs) {
 
 void CView::OnPaint() {
     CPaintDC dc(this);
-    if (dc.m_hDC != nullptr) {
+    if (dc.m_hDC) {
         OnDraw(&dc);
     }
 }

@@ -9,14 +9,18 @@ BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
 ON_WM_NCDESTROY()
 END_MESSAGE_MAP()
 
+namespace {
+
 // Never torn down: objects of static life leave it as the process ends.
-static auto& Map() {
+auto& Map() {
     static auto& map = *new afx::CHandleMap<CWnd, &CWnd::m_hWnd>;
     return map;
 }
 
+} // namespace
+
 CWnd::~CWnd() {
-    if (m_hWnd != nullptr) {
+    if (m_hWnd) {
         CWnd::DestroyWindow();
     }
 }
@@ -34,7 +38,7 @@ BOOL CWnd::Attach(HWND hWndNew) {
 
 HWND CWnd::Detach() {
     const HWND hWnd = Map().Detach(this);
-    if (m_pfnSuper != nullptr) {
+    if (m_pfnSuper) {
         ::SetWindowLongPtrA(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
         m_pfnSuper = nullptr;
     }
@@ -52,7 +56,7 @@ BOOL CWnd::TakeOver(HWND hWnd) {
 }
 
 BOOL CWnd::DestroyWindow() {
-    if (m_hWnd == nullptr) {
+    if (!m_hWnd) {
         return FALSE;
     }
     const HWND hWnd = m_hWnd;
@@ -76,9 +80,9 @@ BOOL CWnd::PreTranslateMessage(MSG*) { return FALSE; }
 
 BOOL AfxPreTranslateMessage(MSG* pMsg) {
     // A window that goes meanwhile has no parent any more, which ends the walk.
-    for (HWND hWnd = pMsg->hwnd; hWnd != nullptr; hWnd = ::GetParent(hWnd)) {
+    for (HWND hWnd = pMsg->hwnd; hWnd; hWnd = ::GetParent(hWnd)) {
         CWnd* const pWnd = CWnd::FromHandlePermanent(hWnd);
-        if (pWnd != nullptr && pWnd->PreTranslateMessage(pMsg)) {
+        if (pWnd && pWnd->PreTranslateMessage(pMsg)) {
             return TRUE;
         }
     }
@@ -109,6 +113,6 @@ void CWnd::MoveWindow(LPCRECT lpRect, BOOL bRepaint) {
 }
 
 BOOL CWnd::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags) {
-    const HWND hWndInsertAfter = pWndInsertAfter != nullptr ? pWndInsertAfter->m_hWnd : HWND_TOP;
+    const HWND hWndInsertAfter = pWndInsertAfter ? pWndInsertAfter->m_hWnd : HWND_TOP;
     return ::SetWindowPos(m_hWnd, hWndInsertAfter, x, y, cx, cy, nFlags);
 }

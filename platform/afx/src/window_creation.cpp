@@ -8,14 +8,18 @@
 
 namespace afx {
 
-static CCreationScope* g_pCreation = nullptr;
+namespace {
+
+CCreationScope* g_pCreation = nullptr;
+
+} // namespace
 
 CCreationScope::CCreationScope(CWnd* pWnd) : m_pWnd(pWnd), m_pOuter(g_pCreation) { g_pCreation = this; }
 
 CCreationScope::~CCreationScope() { g_pCreation = m_pOuter; }
 
 CWnd* CCreationScope::Bind(HWND hWnd) {
-    if (g_pCreation == nullptr || g_pCreation->m_pWnd == nullptr) {
+    if (!g_pCreation || !g_pCreation->m_pWnd) {
         return nullptr;
     }
     CWnd* const pWnd = g_pCreation->m_pWnd;
@@ -28,16 +32,20 @@ CWnd* CCreationScope::Bind(HWND hWnd) {
 
 } // namespace afx
 
-static bool IsFrameworkClass(const CREATESTRUCT& cs) {
+namespace {
+
+bool IsFrameworkClass(const CREATESTRUCT& cs) {
     WNDCLASSA windowClass;
-    return cs.lpszClass != nullptr && ::GetClassInfoA(cs.hInstance, cs.lpszClass, &windowClass) &&
+    return cs.lpszClass && ::GetClassInfoA(cs.hInstance, cs.lpszClass, &windowClass) &&
            windowClass.lpfnWndProc == &AfxWndProc;
 }
 
-static HWND CreateFrom(const CREATESTRUCT& cs) {
+HWND CreateFrom(const CREATESTRUCT& cs) {
     return ::CreateWindowExA(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x,
                              cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
 }
+
+} // namespace
 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, int x, int y,
                     int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam) {
@@ -51,7 +59,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName
 }
 
 BOOL CWnd::GiveUp(HWND hWnd) {
-    if (hWnd != nullptr) {
+    if (hWnd) {
         ::DestroyWindow(hWnd);
     }
     PostNcDestroy();
@@ -71,19 +79,23 @@ BOOL CWnd::CreateOwn(const CREATESTRUCT& cs) {
 BOOL CWnd::CreateForeign(const CREATESTRUCT& cs) {
     const afx::CCreationScope nothingToBind(nullptr);
     const HWND hWnd = CreateFrom(cs);
-    if (hWnd != nullptr && TakeOver(hWnd)) {
+    if (hWnd && TakeOver(hWnd)) {
         return TRUE;
     }
     return GiveUp(hWnd);
 }
 
-static HMENU MenuOfChild(UINT nID) { return reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)); }
+namespace {
+
+HMENU MenuOfChild(UINT nID) { return reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)); }
+
+} // namespace
 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle,
                     const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam) {
     return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
-                    rect.right - rect.left, rect.bottom - rect.top,
-                    pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr, MenuOfChild(nID), lpParam);
+                    rect.right - rect.left, rect.bottom - rect.top, pParentWnd ? pParentWnd->m_hWnd : nullptr,
+                    MenuOfChild(nID), lpParam);
 }
 
 BOOL CWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
@@ -92,7 +104,7 @@ BOOL CWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, co
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {
-    if (cs.lpszClass == nullptr) {
+    if (!cs.lpszClass) {
         cs.lpszClass =
             AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursorA(nullptr, IDC_ARROW));
     }

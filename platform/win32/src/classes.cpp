@@ -14,12 +14,14 @@ constexpr ATOM FirstAtom = 0xC000;
 
 using ClassList = std::vector<std::unique_ptr<WindowClass>>;
 
-static ATOM TakeAtom() {
+namespace {
+
+ATOM TakeAtom() {
     static ATOM next = FirstAtom;
     return next++;
 }
 
-static ClassList* SystemClasses() {
+ClassList* SystemClasses() {
     auto* classes = new ClassList;
     classes->push_back(MakeRichEditClass());
     classes->back()->atom = TakeAtom();
@@ -28,24 +30,26 @@ static ClassList* SystemClasses() {
     return classes;
 }
 
-static ClassList& Classes() {
+ClassList& Classes() {
     static auto& classes = *SystemClasses();
     return classes;
 }
 
-static bool IsNamed(const WindowClass& windowClass, LPCSTR name) {
+bool IsNamed(const WindowClass& windowClass, LPCSTR name) {
     if (IS_INTRESOURCE(name)) {
         return windowClass.atom == LOWORD(reinterpret_cast<UINT_PTR>(name));
     }
     return strcasecmp(windowClass.name.c_str(), name) == 0;
 }
 
-static WindowClass* Lookup(LPCSTR name) {
+WindowClass* Lookup(LPCSTR name) {
     const auto& classes = Classes();
     const auto found = std::find_if(classes.begin(), classes.end(),
                                     [name](const auto& known) { return IsNamed(*known, name); });
     return found == classes.end() ? nullptr : found->get();
 }
+
+} // namespace
 
 WindowClass* FindClass(LPCSTR name) {
     WindowClass* found = Lookup(name);

@@ -12,9 +12,11 @@ namespace win32 {
 constexpr std::array<WORD, 10> SystemCursors = {32512, 32513, 32514, 32515, 32642,
                                                 32643, 32644, 32645, 32646, 32648};
 
-static HCURSOR g_cursor = nullptr;
+namespace {
 
-static HCURSOR SystemCursor(WORD id) {
+HCURSOR g_cursor = nullptr;
+
+HCURSOR SystemCursor(WORD id) {
     const auto found = std::find(SystemCursors.begin(), SystemCursors.end(), id);
     if (found == SystemCursors.end()) {
         return nullptr;
@@ -22,6 +24,8 @@ static HCURSOR SystemCursor(WORD id) {
     const unsigned slot = static_cast<unsigned>(found - SystemCursors.begin()) + 1;
     return reinterpret_cast<HCURSOR>(HandleValue(HandleKind::Cursor, slot, 1));
 }
+
+} // namespace
 
 } // namespace win32
 

@@ -4,14 +4,18 @@
 
 namespace win32 {
 
-static HWND g_focus = nullptr;
-static HWND g_capture = nullptr;
+namespace {
 
-static bool HoldsOrContains(HWND handle, HWND holder) {
+HWND g_focus = nullptr;
+HWND g_capture = nullptr;
+
+bool HoldsOrContains(HWND handle, HWND holder) {
     const Window* window = g_windows.Find(handle);
     const Window* held = g_windows.Find(holder);
     return window && held && (held == window || IsInside(*held, *window));
 }
+
+} // namespace
 
 void YieldFocus(HWND handle) {
     if (HoldsOrContains(handle, g_focus)) {

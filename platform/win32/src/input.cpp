@@ -9,21 +9,25 @@ namespace win32 {
 constexpr int KeyCount = 256;
 constexpr SHORT KeyIsDown = static_cast<SHORT>(0x8000);
 
-static std::bitset<KeyCount> g_asyncKeys;
-static std::bitset<KeyCount> g_syncKeys;
-static POINT g_pointer = {0, 0};
+namespace {
 
-static bool IsKey(WPARAM key) { return key < KeyCount; }
+std::bitset<KeyCount> g_asyncKeys;
+std::bitset<KeyCount> g_syncKeys;
+POINT g_pointer = {0, 0};
 
-static void SetKey(std::bitset<KeyCount>& keys, WPARAM key, bool down) {
+bool IsKey(WPARAM key) { return key < KeyCount; }
+
+void SetKey(std::bitset<KeyCount>& keys, WPARAM key, bool down) {
     if (IsKey(key)) {
         keys[key] = down;
     }
 }
 
-static SHORT StateOf(const std::bitset<KeyCount>& keys, int key) {
+SHORT StateOf(const std::bitset<KeyCount>& keys, int key) {
     return IsKey(static_cast<WPARAM>(key)) && keys[static_cast<size_t>(key)] ? KeyIsDown : 0;
 }
+
+} // namespace
 
 void NoteKeyMessage(UINT message, WPARAM key) {
     if (message == WM_KEYDOWN || message == WM_KEYUP) {

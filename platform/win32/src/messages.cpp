@@ -4,7 +4,9 @@
 
 namespace win32 {
 
-static LRESULT EraseBackground(HWND handle, HDC dc) {
+namespace {
+
+LRESULT EraseBackground(HWND handle, HDC dc) {
     const Window* window = g_windows.Find(handle);
     const HBRUSH brush = window ? window->windowClass->record.hbrBackground : nullptr;
     RECT area;
@@ -17,7 +19,7 @@ static LRESULT EraseBackground(HWND handle, HDC dc) {
 
 // Children decide before their parents; where none sets a cursor the class of the window under the pointer
 // does.
-static LRESULT SetClassCursor(HWND handle, WPARAM wParam, LPARAM lParam) {
+LRESULT SetClassCursor(HWND handle, WPARAM wParam, LPARAM lParam) {
     const Window* window = g_windows.Find(handle);
     if (!window) {
         return FALSE;
@@ -35,6 +37,8 @@ static LRESULT SetClassCursor(HWND handle, WPARAM wParam, LPARAM lParam) {
     }
     return FALSE;
 }
+
+} // namespace
 
 } // namespace win32
 

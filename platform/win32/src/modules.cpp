@@ -24,41 +24,43 @@ struct Module {
     bool stays = false; // As long as the process, however often it is freed.
 };
 
-static constinit CHandleTable<Module, HandleKind::Module> g_modules;
-static platform::RawStartHook g_rawStart = nullptr;
+namespace {
 
-static std::vector<HMODULE>& LoadedModules() {
+constinit CHandleTable<Module, HandleKind::Module> g_modules;
+platform::RawStartHook g_rawStart = nullptr;
+
+std::vector<HMODULE>& LoadedModules() {
     static auto& loaded = *new std::vector<HMODULE>;
     return loaded;
 }
 
-static std::string RealPath(const std::string& path) {
+std::string RealPath(const std::string& path) {
     char* real = realpath(path.c_str(), nullptr);
     std::string result = real ? real : "";
     std::free(real);
     return result;
 }
 
-static std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
+std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
 
-static std::string FileOfCode(const void* code) {
+std::string FileOfCode(const void* code) {
     Dl_info info;
     return dladdr(code, &info) && info.dli_fname ? RealPath(info.dli_fname) : "";
 }
 
-static std::string LayerPath() { return FileOfCode(&g_rawStart); }
+std::string LayerPath() { return FileOfCode(&g_rawStart); }
 
 // The library that brings the rich-edit control is this layer itself, under its name of old.
-static bool IsLayer(const std::string& name) { return strcasecmp(name.c_str(), "RICHED32.DLL") == 0; }
+bool IsLayer(const std::string& name) { return strcasecmp(name.c_str(), "RICHED32.DLL") == 0; }
 
-static std::string ExecutablePath() { return RealPath("/proc/self/exe"); }
+std::string ExecutablePath() { return RealPath("/proc/self/exe"); }
 
-static std::string Beside(const std::string& folder, const std::string& name) {
+std::string Beside(const std::string& folder, const std::string& name) {
     return folder.empty() ? "" : RealPath(folder + name);
 }
 
 // The empty string when there is no such file.
-static std::string Locate(const std::string& name, const void* caller) {
+std::string Locate(const std::string& name, const void* caller) {
     if (name.find('/') != std::string::npos) {
         return RealPath(name);
     }
@@ -69,7 +71,7 @@ static std::string Locate(const std::string& name, const void* caller) {
     return beside.empty() ? Beside(FolderOf(ExecutablePath()), name) : beside;
 }
 
-static HMODULE FindLoaded(const std::string& path) {
+HMODULE FindLoaded(const std::string& path) {
     for (HMODULE handle : LoadedModules()) {
         if (g_modules.Find(handle)->path == path) {
             return handle;
@@ -78,7 +80,7 @@ static HMODULE FindLoaded(const std::string& path) {
     return nullptr;
 }
 
-static HMODULE Enter(std::unique_ptr<Module> module) {
+HMODULE Enter(std::unique_ptr<Module> module) {
     const HMODULE handle = reinterpret_cast<HMODULE>(g_modules.Add(std::move(module)));
     if (handle) {
         LoadedModules().push_back(handle);
@@ -86,7 +88,7 @@ static HMODULE Enter(std::unique_ptr<Module> module) {
     return handle;
 }
 
-static HMODULE EnterStaying(const std::string& path, void* library) {
+HMODULE EnterStaying(const std::string& path, void* library) {
     auto module = std::make_unique<Module>();
     module->path = path;
     module->library = library;
@@ -94,26 +96,26 @@ static HMODULE EnterStaying(const std::string& path, void* library) {
     return Enter(std::move(module));
 }
 
-static HMODULE Executable() {
+HMODULE Executable() {
     static const HMODULE executable = EnterStaying(ExecutablePath(), dlopen(nullptr, RTLD_NOW));
     return executable;
 }
 
-static HMODULE Layer() {
+HMODULE Layer() {
     static const HMODULE layer =
         EnterStaying(LayerPath(), dlopen(LayerPath().c_str(), RTLD_NOW | RTLD_NOLOAD));
     return layer;
 }
 
 // Drops the module from the table before it is closed: its destructors must not find it any more.
-static void Close(HMODULE handle) {
+void Close(HMODULE handle) {
     std::erase(LoadedModules(), handle);
     if (const std::unique_ptr<Module> module = g_modules.Remove(handle)) {
         dlclose(module->library);
     }
 }
 
-static HMODULE Open(const std::string& path) {
+HMODULE Open(const std::string& path) {
     if (g_rawStart) {
         g_rawStart();
     }
@@ -135,7 +137,7 @@ static HMODULE Open(const std::string& path) {
 }
 
 // A module without an entry point holds resources alone and is ready when it is open.
-static bool Attach(HMODULE handle) {
+bool Attach(HMODULE handle) {
     const Module& module = *g_modules.Find(handle);
     if (!module.entry) {
         return !platform::FaultTrips("resource") || FailWith(ERROR_MOD_NOT_FOUND);
@@ -143,7 +145,7 @@ static bool Attach(HMODULE handle) {
     return module.entry(handle, DLL_PROCESS_ATTACH, nullptr) || FailWith(ERROR_DLL_INIT_FAILED);
 }
 
-static HMODULE Load(const std::string& path) {
+HMODULE Load(const std::string& path) {
     if (path == LayerPath()) {
         return Layer();
     }
@@ -154,6 +156,8 @@ static HMODULE Load(const std::string& path) {
     }
     return handle;
 }
+
+} // namespace
 
 } // namespace win32
 

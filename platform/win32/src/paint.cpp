@@ -5,10 +5,14 @@
 
 namespace win32 {
 
-static platform::IObserver* g_observer = nullptr;
+namespace {
+
+platform::IObserver* g_observer = nullptr;
 
 // How many windows have something to be painted, so that an idle queue need not walk the tree.
-static unsigned g_windowsToPaint = 0;
+unsigned g_windowsToPaint = 0;
+
+} // namespace
 
 void SetUpdate(Window& window, const RECT& area, bool erase) {
     const bool before = !IsRectEmpty(&window.update);
@@ -25,7 +29,9 @@ void DropUpdates(Window& window) {
     }
 }
 
-static void AddToUpdates(Window& window, const RECT& area, bool erase) {
+namespace {
+
+void AddToUpdates(Window& window, const RECT& area, bool erase) {
     const RECT client = window.Client();
     RECT part;
     if (!window.IsShown() || !IntersectRect(&part, &area, &client)) {
@@ -41,6 +47,8 @@ static void AddToUpdates(Window& window, const RECT& area, bool erase) {
     }
 }
 
+} // namespace
+
 void Invalidate(Window& window, const RECT& area, bool erase) {
     const RECT visible = VisibleArea(window);
     RECT part;
@@ -49,7 +57,9 @@ void Invalidate(Window& window, const RECT& area, bool erase) {
     }
 }
 
-static Window* NextInSubtree(Window& window) {
+namespace {
+
+Window* NextInSubtree(Window& window) {
     if (!window.IsShown()) {
         return nullptr;
     }
@@ -63,6 +73,8 @@ static Window* NextInSubtree(Window& window) {
     }
     return nullptr;
 }
+
+} // namespace
 
 Window* NextToPaint(Window* root) {
     if (g_windowsToPaint == 0) {
@@ -79,7 +91,9 @@ Window* NextToPaint(Window* root) {
     return nullptr;
 }
 
-static void PaintSubtree(HWND handle) {
+namespace {
+
+void PaintSubtree(HWND handle) {
     const Window* window = g_windows.Find(handle);
     if (!window || !window->IsShown()) {
         return;
@@ -98,7 +112,7 @@ static void PaintSubtree(HWND handle) {
 }
 
 // What the difference leaves as a rectangle; where it is none, all of `from` stays.
-static RECT Without(const RECT& from, const RECT& taken) {
+RECT Without(const RECT& from, const RECT& taken) {
     RECT common;
     RECT left = from;
     if (!IntersectRect(&common, &from, &taken)) {
@@ -118,9 +132,11 @@ static RECT Without(const RECT& from, const RECT& taken) {
     return left;
 }
 
-static bool EraseUpdate(HWND handle, HDC dc) {
+bool EraseUpdate(HWND handle, HDC dc) {
     return SendMessageA(handle, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0) != 0;
 }
+
+} // namespace
 
 } // namespace win32
 

@@ -4,7 +4,11 @@
 
 namespace platform {
 
-static std::size_t g_taken = 0;
+namespace {
+
+std::size_t g_taken = 0;
+
+} // namespace
 
 bool TakePixelBytes(std::size_t bytes) {
     if (bytes > MostPixelBytes - g_taken) {

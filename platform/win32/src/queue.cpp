@@ -28,13 +28,17 @@ struct Quit {
     int exitCode = 0;
 };
 
-static Quit g_quit;
-static MSG g_lastTaken = {};
+namespace {
 
-static std::deque<MSG>& Posted() {
+Quit g_quit;
+MSG g_lastTaken = {};
+
+std::deque<MSG>& Posted() {
     static auto& posted = *new std::deque<MSG>;
     return posted;
 }
+
+} // namespace
 
 bool PassesWindowFilter(HWND filter, HWND handle) {
     if (!filter || filter == handle) {
@@ -45,17 +49,23 @@ bool PassesWindowFilter(HWND filter, HWND handle) {
     return ancestor && window && IsInside(*window, *ancestor);
 }
 
-static MSG MakeMessage(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+namespace {
+
+MSG MakeMessage(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
     MSG made = {handle, message, wParam, lParam, GetTickCount(), {}};
     GetCursorPos(&made.pt);
     return made;
 }
 
+} // namespace
+
 void ForgetMessages(HWND handle) {
     std::erase_if(Posted(), [handle](const MSG& m) { return m.hwnd == handle; });
 }
 
-static bool TakePosted(const Filter& filter, Take take, MSG* message) {
+namespace {
+
+bool TakePosted(const Filter& filter, Take take, MSG* message) {
     auto& posted = Posted();
     const auto found =
         std::find_if(posted.begin(), posted.end(), [&filter](const MSG& m) { return filter.Passes(m); });
@@ -71,7 +81,7 @@ static bool TakePosted(const Filter& filter, Take take, MSG* message) {
 }
 
 // A filter by range does not hold the end of the thread back.
-static bool TakeQuit(Take take, MSG* message) {
+bool TakeQuit(Take take, MSG* message) {
     if (!g_quit.posted) {
         return false;
     }
@@ -81,7 +91,7 @@ static bool TakeQuit(Take take, MSG* message) {
 }
 
 // Painting takes it: a paint message stands until the window's update area is empty.
-static bool FindPaint(const Filter& filter, MSG* message) {
+bool FindPaint(const Filter& filter, MSG* message) {
     if (!filter.PassesMessage(WM_PAINT)) {
         return false;
     }
@@ -93,7 +103,7 @@ static bool FindPaint(const Filter& filter, MSG* message) {
     return true;
 }
 
-static bool TakeTimer(const Filter& filter, Take take, MSG* message) {
+bool TakeTimer(const Filter& filter, Take take, MSG* message) {
     DueTimer due;
     if (!filter.PassesMessage(WM_TIMER) || !FindDueTimer(filter.window, take, &due)) {
         return false;
@@ -102,7 +112,7 @@ static bool TakeTimer(const Filter& filter, Take take, MSG* message) {
     return true;
 }
 
-static bool Next(const Filter& filter, Take take, MSG* message) {
+bool Next(const Filter& filter, Take take, MSG* message) {
     const bool found = TakePosted(filter, take, message) || TakeQuit(take, message) ||
                        FindPaint(filter, message) || TakeTimer(filter, take, message);
     if (found && take == Take::Yes) {
@@ -112,7 +122,7 @@ static bool Next(const Filter& filter, Take take, MSG* message) {
 }
 
 // The character that a key gives with the keys that are held, 0 for none.
-static char CharacterOf(WPARAM key) {
+char CharacterOf(WPARAM key) {
     const bool shift = GetKeyState(VK_SHIFT) < 0;
     const bool control = GetKeyState(VK_CONTROL) < 0;
     if (key >= 'A' && key <= 'Z') {
@@ -124,6 +134,8 @@ static char CharacterOf(WPARAM key) {
     }
     return key >= '0' && key <= '9' && !shift && !control ? static_cast<char>(key) : '\0';
 }
+
+} // namespace
 
 } // namespace win32
 

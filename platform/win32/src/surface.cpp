@@ -7,13 +7,15 @@
 
 namespace win32 {
 
-static platform::IPresenter* g_presenter = nullptr;
+namespace {
 
-static size_t PixelCount(const Window& window) {
+platform::IPresenter* g_presenter = nullptr;
+
+size_t PixelCount(const Window& window) {
     return static_cast<size_t>(window.Width()) * static_cast<size_t>(window.Height());
 }
 
-static void CopyCommon(const DWORD* from, int fromWidth, int fromHeight, Window& to) {
+void CopyCommon(const DWORD* from, int fromWidth, int fromHeight, Window& to) {
     const int width = std::min(fromWidth, to.Width());
     const int height = std::min(fromHeight, to.Height());
     for (int y = 0; y < height; ++y) {
@@ -21,6 +23,8 @@ static void CopyCommon(const DWORD* from, int fromWidth, int fromHeight, Window&
                     to.pixels.get() + static_cast<ptrdiff_t>(y) * to.Width());
     }
 }
+
+} // namespace
 
 bool SizeSurface(Window& window, int oldWidth, int oldHeight) {
     if (window.pixels && window.Width() == oldWidth && window.Height() == oldHeight) {

@@ -16,32 +16,36 @@ struct Timer {
     TIMERPROC procedure;
 };
 
-static platform::IClock* g_clock = nullptr;
+namespace {
+
+platform::IClock* g_clock = nullptr;
 
 // Windowless timers are numbered from here on, away from the small numbers that windows use.
-static UINT_PTR g_nextFreeId = 0x7000;
+UINT_PTR g_nextFreeId = 0x7000;
 
-static std::vector<Timer>& Timers() {
+std::vector<Timer>& Timers() {
     static auto& timers = *new std::vector<Timer>;
     return timers;
 }
 
 // Milliseconds until `due`, negative once it is past; right across the wrap of the clock.
-static int Until(DWORD due) { return static_cast<int>(due - GetTickCount()); }
+int Until(DWORD due) { return static_cast<int>(due - GetTickCount()); }
 
-static Timer* FindTimer(HWND window, UINT_PTR id) {
+Timer* FindTimer(HWND window, UINT_PTR id) {
     auto& timers = Timers();
     const auto found = std::find_if(timers.begin(), timers.end(),
                                     [=](const Timer& t) { return t.window == window && t.id == id; });
     return found == timers.end() ? nullptr : &*found;
 }
 
-static void StartNextPeriod(Timer& timer) {
+void StartNextPeriod(Timer& timer) {
     timer.due += timer.period;
     if (Until(timer.due) <= 0) {
         timer.due = GetTickCount() + timer.period;
     }
 }
+
+} // namespace
 
 bool FindDueTimer(HWND filter, Take take, DueTimer* due) {
     Timer* found = nullptr;

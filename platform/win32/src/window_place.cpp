@@ -15,12 +15,16 @@ RECT PlaceOf(int x, int y, int width, int height) {
     return {left, top, left + std::clamp(width, 0, LargestSize), top + std::clamp(height, 0, LargestSize)};
 }
 
+namespace {
+
 // Top-level windows have nothing beneath them to repaint.
-static void InvalidateBeneath(Window& window, const RECT& place) {
+void InvalidateBeneath(Window& window, const RECT& place) {
     if (window.parent) {
         Invalidate(*window.parent, place, true);
     }
 }
+
+} // namespace
 
 void SetShown(HWND handle, bool shown) {
     Window* window = g_windows.Find(handle);
@@ -43,7 +47,9 @@ void SetShown(HWND handle, bool shown) {
     YieldFocus(handle);
 }
 
-static void Restack(Window& window, HWND insertAfter) {
+namespace {
+
+void Restack(Window& window, HWND insertAfter) {
     Unlink(window);
     Window* above =
         insertAfter == HWND_TOP || insertAfter == HWND_BOTTOM ? nullptr : g_windows.Find(insertAfter);
@@ -57,10 +63,14 @@ static void Restack(Window& window, HWND insertAfter) {
     above->below = &window;
 }
 
+} // namespace
+
 enum class Repaint { No, Yes };
 
+namespace {
+
 // False when a top-level window's surface could not be had; nothing has changed then.
-static bool Resize(Window& window, const RECT& place) {
+bool Resize(Window& window, const RECT& place) {
     const RECT before = window.place;
     window.place = place;
     if (!window.parent && !SizeSurface(window, before.right - before.left, before.bottom - before.top)) {
@@ -74,18 +84,16 @@ static bool Resize(Window& window, const RECT& place) {
     return true;
 }
 
-static void RepaintMoved(Window& window, const RECT& before) {
+void RepaintMoved(Window& window, const RECT& before) {
     if (window.IsShown()) {
         InvalidateBeneath(window, before);
         Invalidate(window, window.Client(), true);
     }
 }
 
-static LPARAM PointParam(int x, int y) {
-    return MAKELPARAM(static_cast<ULONG_PTR>(x), static_cast<ULONG_PTR>(y));
-}
+LPARAM PointParam(int x, int y) { return MAKELPARAM(static_cast<ULONG_PTR>(x), static_cast<ULONG_PTR>(y)); }
 
-static BOOL Place(HWND handle, const RECT& place, Repaint repaint) {
+BOOL Place(HWND handle, const RECT& place, Repaint repaint) {
     Window* window = g_windows.Find(handle);
     const RECT before = window->place;
     if (EqualRect(&before, &place)) {
@@ -111,9 +119,13 @@ static BOOL Place(HWND handle, const RECT& place, Repaint repaint) {
     return TRUE;
 }
 
+} // namespace
+
 // Moves the point by the place of the window's client area on the screen.
+namespace {
+
 template <LONG (*Combine)(LONG, LONG)>
-static BOOL Shift(HWND handle, LPPOINT point) {
+BOOL Shift(HWND handle, LPPOINT point) {
     const Window* window = FindWindow(handle);
     if (!window || !point) {
         return FALSE;
@@ -122,6 +134,8 @@ static BOOL Shift(HWND handle, LPPOINT point) {
     *point = {Combine(point->x, origin.x), Combine(point->y, origin.y)};
     return TRUE;
 }
+
+} // namespace
 
 } // namespace win32
 

@@ -4,7 +4,11 @@ namespace win32 {
 
 constinit CHandleTable<Window, HandleKind::Window> g_windows;
 
-static constinit Siblings g_topLevels;
+namespace {
+
+constinit Siblings g_topLevels;
+
+} // namespace
 
 Window* FindWindow(HWND handle) {
     Window* window = g_windows.Find(handle);

@@ -6,9 +6,11 @@
 
 namespace win32 {
 
+namespace {
+
 // Frees the window and takes it out of everything that could still name it. Children that are themselves
 // being destroyed (one of them destroyed this parent) finish outside the tree.
-static void FreeWindow(HWND handle) {
+void FreeWindow(HWND handle) {
     YieldCapture(handle);
     ForgetMessages(handle);
     ForgetTimers(handle);
@@ -25,7 +27,7 @@ static void FreeWindow(HWND handle) {
     g_windows.Remove(handle);
 }
 
-static Window* FirstDoomed(const Window* among, HWND owner) {
+Window* FirstDoomed(const Window* among, HWND owner) {
     for (Window* w = const_cast<Window*>(among); w; w = w->below) {
         if (!w->destroying && (!owner || w->owner == owner)) {
             return w;
@@ -34,20 +36,19 @@ static Window* FirstDoomed(const Window* among, HWND owner) {
     return nullptr;
 }
 
-static void DestroyOwned(HWND handle) {
+void DestroyOwned(HWND handle) {
     while (const Window* owned = FirstDoomed(TopLevels().top, handle)) {
         DestroyWindow(owned->handle);
     }
 }
 
-static void DestroyChildren(HWND handle) {
+void DestroyChildren(HWND handle) {
     while (const Window* child = FirstDoomed(g_windows.Find(handle)->children.top, nullptr)) {
         DestroyWindow(child->handle);
     }
 }
 
-static std::unique_ptr<Window> MakeWindow(const CREATESTRUCTA& create, WindowClass& windowClass,
-                                          Window* parent) {
+std::unique_ptr<Window> MakeWindow(const CREATESTRUCTA& create, WindowClass& windowClass, Window* parent) {
     std::unique_ptr<Window> window(new (std::nothrow) Window);
     if (!window) {
         return nullptr;
@@ -68,7 +69,7 @@ static std::unique_ptr<Window> MakeWindow(const CREATESTRUCTA& create, WindowCla
     return window;
 }
 
-static HWND EnterWindow(std::unique_ptr<Window> window) {
+HWND EnterWindow(std::unique_ptr<Window> window) {
     if (!window || (!window->parent && !SizeSurface(*window, 0, 0))) {
         return nullptr;
     }
@@ -83,7 +84,7 @@ static HWND EnterWindow(std::unique_ptr<Window> window) {
 }
 
 // The creation messages; false when the window refused or did not live through them.
-static bool Introduce(HWND handle, CREATESTRUCTA& create) {
+bool Introduce(HWND handle, CREATESTRUCTA& create) {
     const LPARAM argument = reinterpret_cast<LPARAM>(&create);
     if (!SendMessageA(handle, WM_NCCREATE, 0, argument)) {
         if (Window* window = g_windows.Find(handle)) {
@@ -105,7 +106,9 @@ static bool Introduce(HWND handle, CREATESTRUCTA& create) {
     return IsWindow(handle) != FALSE;
 }
 
-static int OrZero(int value) { return value == CW_USEDEFAULT ? 0 : value; }
+int OrZero(int value) { return value == CW_USEDEFAULT ? 0 : value; }
+
+} // namespace
 
 } // namespace win32
 

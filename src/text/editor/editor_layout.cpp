@@ -21,9 +21,8 @@ int CInplaceEditor::m_fnRegenerateFont() {
     m_font.DeleteObject();
     m_nFittingWidth = 0;
     const int nHeight = -std::max(m_nFontSize, -std::numeric_limits<int>::max());
-    if (!m_font.CreateFont(nHeight, 0, 0, 0, m_nBold ? FW_BOLD : FW_NORMAL,
-                           static_cast<BYTE>(m_nItalic), static_cast<BYTE>(m_nUnderline), 0, DefaultCharSet,
-                           0, 0, 0, 0, m_strFontName)) {
+    if (!m_font.CreateFont(nHeight, 0, 0, 0, m_nBold ? FW_BOLD : FW_NORMAL, static_cast<BYTE>(m_nItalic),
+                           static_cast<BYTE>(m_nUnderline), 0, DefaultCharSet, 0, 0, 0, 0, m_strFontName)) {
         return 0;
     }
     m_fnUpdateWindowPos();

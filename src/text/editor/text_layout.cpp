@@ -7,14 +7,18 @@
 #include "ops/saturate.h"
 #include "text/editor/text_style.h"
 
+namespace {
+
 // The modes in which lines are measured, by alignment.
-static UINT MeasuringAlign(int nAlign) {
+UINT MeasuringAlign(int nAlign) {
     switch (nAlign) {
     case text_align::Center: return TA_BASELINE | TA_CENTER;
     case text_align::Right: return TA_BASELINE | TA_RIGHT;
     default: return TA_BASELINE | TA_LEFT;
     }
 }
+
+} // namespace
 
 void SelectTextFormat(HDC hDC, const TextFormat& format, UINT nTextAlign) {
     SelectObject(hDC, format.hFont);
@@ -23,13 +27,17 @@ void SelectTextFormat(HDC hDC, const TextFormat& format, UINT nTextAlign) {
     SetTextAlign(hDC, nTextAlign);
 }
 
-static CSize ExtentIn(HDC hDC, LPCSTR pszText, int nBytes) {
+namespace {
+
+CSize ExtentIn(HDC hDC, LPCSTR pszText, int nBytes) {
     SIZE size{};
     if (!GetTextExtentExPointA(hDC, pszText, nBytes, 0, nullptr, nullptr, &size)) {
         return CSize(0, 0);
     }
     return CSize(size);
 }
+
+} // namespace
 
 CTextLayout::CTextLayout(const CLineStore& lines, const TextFormat& format)
     : m_lines(lines), m_hWnd(format.hWnd), m_hDC(GetDC(format.hWnd)), m_nAlign(format.nAlign),

@@ -12,7 +12,7 @@ class CNotes : public CDocument {
   public:
     std::vector<CView*> Views() const {
         std::vector<CView*> views;
-        for (POSITION pos = GetFirstViewPosition(); pos != nullptr;) {
+        for (POSITION pos = GetFirstViewPosition(); pos;) {
             views.push_back(GetNextView(pos));
         }
         return views;

@@ -12,21 +12,24 @@ using CIntList = CList<int, int>;
 
 std::vector<int> Contents(const CIntList& list) {
     std::vector<int> contents;
-    for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
+    for (POSITION pos = list.GetHeadPosition(); pos;) {
         contents.push_back(list.GetNext(pos));
+    }
     return contents;
 }
 
 std::vector<int> Backward(const CIntList& list) {
     std::vector<int> contents;
-    for (POSITION pos = list.GetTailPosition(); pos != nullptr;)
+    for (POSITION pos = list.GetTailPosition(); pos;) {
         contents.push_back(list.GetPrev(pos));
+    }
     return contents;
 }
 
 void Fill(CIntList& list, const std::vector<int>& values) {
-    for (int value : values)
+    for (int value : values) {
         list.AddTail(value);
+    }
 }
 
 using Ints = std::vector<int>;
@@ -116,8 +119,9 @@ TEST(List, OneBlockServesTenElementsAndRemovedPlacesAreUsedAgain) {
     CIntList list;
     const int nBefore = testing_memory::CountAllocations();
 
-    for (int n = 0; n < 10; ++n)
+    for (int n = 0; n < 10; ++n) {
         list.AddTail(n);
+    }
     for (int n = 10; n < 50; ++n) {
         list.RemoveHead();
         list.AddTail(n);

@@ -4,8 +4,12 @@
 #include <cstdlib>
 #include <new>
 
-static bool g_isShort = false;
-static int g_nAllocations = 0;
+namespace {
+
+bool g_isShort = false;
+int g_nAllocations = 0;
+
+} // namespace
 
 testing_memory::CShortageScope::CShortageScope() { g_isShort = true; }
 testing_memory::CShortageScope::~CShortageScope() { g_isShort = false; }
@@ -21,7 +25,7 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
 void* operator new(std::size_t size) {
     ++g_nAllocations;
     void* const p = std::malloc(size != 0 ? size : 1);
-    if (p == nullptr) {
+    if (!p) {
         throw std::bad_alloc();
     }
     return p;

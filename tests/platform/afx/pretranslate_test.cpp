@@ -13,8 +13,9 @@ class CWatchingWnd : public CWnd {
 
     BOOL PreTranslateMessage(MSG* pMsg) override {
         m_log += m_name;
-        if (m_bEndsHere)
+        if (m_bEndsHere) {
             DestroyWindow();
+        }
         return pMsg->message == m_nOwn;
     }
 

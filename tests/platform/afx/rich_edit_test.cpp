@@ -57,8 +57,9 @@ TEST_F(RichEditCtrl, EmptyLastLinesCanBePeeledOff) {
         m_edit.SetWindowText(row.given);
         for (int nLine = m_edit.GetLineCount() - 1; nLine >= 0; --nLine) {
             char line[8] = "";
-            if (m_edit.GetLine(nLine, line, sizeof line) != 1 || line[0] != '\r')
+            if (m_edit.GetLine(nLine, line, sizeof line) != 1 || line[0] != '\r') {
                 break;
+            }
             m_edit.SetSel(m_edit.LineIndex(nLine) - 1, -1);
             m_edit.ReplaceSel("");
         }

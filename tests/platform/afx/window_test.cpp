@@ -18,8 +18,9 @@ using Log = std::vector<std::string>;
 
 std::string Words(const char* name, std::initializer_list<long long> numbers) {
     std::string text(name);
-    for (long long number : numbers)
+    for (long long number : numbers) {
         text += ' ' + std::to_string(number);
+    }
     return text;
 }
 
@@ -38,7 +39,7 @@ class CProbeWnd : public CWnd {
         return CWnd::OnCreate(lpcs);
     }
     void OnDestroy() { m_log.push_back("destroy"); }
-    void PostNcDestroy() override { m_log.push_back(m_hWnd == nullptr ? "gone" : "still there"); }
+    void PostNcDestroy() override { m_log.push_back(!m_hWnd ? "gone" : "still there"); }
     void OnSize(UINT nType, int cx, int cy) { m_log.push_back(Words("size", {nType, cx, cy})); }
     void OnSetFocus(CWnd* pOld) { m_pOther = pOld; }
     void OnKillFocus(CWnd* pNew) { m_pOther = pNew; }
@@ -186,13 +187,16 @@ TEST(Window, ManyHandlesKeepTheirObjectsApart) {
         ASSERT_TRUE(wnds.back()->Attach(handleOf(n)));
     }
 
-    for (std::size_t n = 0; n < 1000; n += 3)
+    for (std::size_t n = 0; n < 1000; n += 3) {
         wnds[n]->Detach();
+    }
 
-    for (std::size_t n = 0; n < 1000; ++n)
+    for (std::size_t n = 0; n < 1000; ++n) {
         EXPECT_EQ(CWnd::FromHandlePermanent(handleOf(n)), n % 3 == 0 ? nullptr : wnds[n].get());
-    for (const auto& pWnd : wnds)
+    }
+    for (const auto& pWnd : wnds) {
         pWnd->Detach();
+    }
 }
 
 TEST(Window, FailedCreationEndsTheObjectOnce) {

@@ -4,12 +4,17 @@
 
 #include <string>
 
-static std::string Asked(const char* name, int times) {
+namespace {
+
+std::string Asked(const char* name, int times) {
     std::string answers;
-    for (int i = 0; i < times; ++i)
+    for (int i = 0; i < times; ++i) {
         answers += platform::FaultTrips(name) ? 'x' : '.';
+    }
     return answers;
 }
+
+} // namespace
 
 TEST(Faults, TripFromTheGivenAskingOnOrOnlyThen) {
     platform::ArmFault("bitmap", false, 2);

@@ -13,7 +13,11 @@
 
 namespace fs = std::filesystem;
 
-static int g_rawStarts;
+namespace {
+
+int g_rawStarts;
+
+} // namespace
 
 /// Builds small modules in a folder of its own.
 class Modules : public testing::Test {
@@ -127,7 +131,7 @@ TEST_F(Modules, MissingFileAndFileThatIsNoModuleDiffer) {
                                                   {nullptr, ERROR_INVALID_PARAMETER}};
     for (const auto& [path, error] : rows) {
         EXPECT_EQ(LoadLibraryA(path), nullptr);
-        EXPECT_EQ(GetLastError(), error) << (path != nullptr ? path : "no name");
+        EXPECT_EQ(GetLastError(), error) << (path ? path : "no name");
     }
 }
 

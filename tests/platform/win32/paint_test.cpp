@@ -22,8 +22,9 @@ class Painting : public WindowStage {
     }
     static std::string Text(const RECT& r) {
         std::string text;
-        for (const LONG edge : {r.left, r.top, r.right, r.bottom})
+        for (const LONG edge : {r.left, r.top, r.right, r.bottom}) {
             text += (text.empty() ? "" : ",") + std::to_string(edge);
+        }
         return text;
     }
     static DWORD PixelAt(HWND top, int x, int y) {

@@ -15,8 +15,9 @@ class Queue : public WindowStage {
 TEST_F(Queue, PostedMovesAreNotMerged) {
     const HWND top = Top("A");
     Pump();
-    for (int x = 0; x < 3; ++x)
+    for (int x = 0; x < 3; ++x) {
         PostMessageA(top, WM_MOUSEMOVE, 0, MAKELPARAM(x, 0));
+    }
 
     EXPECT_EQ(platform::QueuedMessages(), 3U);
     EXPECT_EQ(Pump(), 3);

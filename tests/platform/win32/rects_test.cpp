@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-static bool Same(const RECT& a, const RECT& b) { return EqualRect(&a, &b) != FALSE; }
+namespace {
+
+bool Same(const RECT& a, const RECT& b) { return EqualRect(&a, &b) != FALSE; }
+
+} // namespace
 
 TEST(Rects, LeftAndTopBelongRightAndBottomDoNot) {
     const RECT rect = {2, 3, 5, 7};
@@ -52,6 +56,7 @@ TEST(MulDiv, RoundsHalvesAwayFromZeroInSixtyFourBitsAndTellsOverflow) {
         {5, 1, 2, 3},           {-5, 1, 2, -3},        {5, 1, -2, -3}, {-5, -1, 2, 3},
         {4, 1, 3, 1},           {5, 1, 3, 2},          {7, 3, 0, -1},  {2000000000, 3, 6, 1000000000},
         {2000000000, 3, 1, -1}, {INT32_MIN, -1, 1, -1}};
-    for (const auto& [number, numerator, denominator, expected] : rows)
+    for (const auto& [number, numerator, denominator, expected] : rows) {
         EXPECT_EQ(MulDiv(number, numerator, denominator), expected) << number << " " << denominator;
+    }
 }

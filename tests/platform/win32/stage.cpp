@@ -7,7 +7,11 @@
 
 #include <algorithm>
 
-static WindowStage* g_stage = nullptr;
+namespace {
+
+WindowStage* g_stage = nullptr;
+
+} // namespace
 
 WindowStage::WindowStage() {
     g_stage = this;
@@ -80,17 +84,21 @@ LRESULT CALLBACK WindowStage::Procedure(HWND window, UINT message, WPARAM wParam
     return chosen(window, wParam, lParam);
 }
 
-static const std::map<char, DWORD>& Letters() {
+namespace {
+
+const std::map<char, DWORD>& Letters() {
     static const std::map<char, DWORD> letters = {{'-', 0x808080}, {'k', 0},        {'W', 0xFFFFFF},
                                                   {'R', 0xFF0000}, {'G', 0x00FF00}, {'B', 0x0000FF}};
     return letters;
 }
 
-static char LetterOf(DWORD pixel) {
+char LetterOf(DWORD pixel) {
     const auto found =
         std::find_if(Letters().begin(), Letters().end(), [pixel](auto& l) { return l.second == pixel; });
     return found == Letters().end() ? '?' : found->first;
 }
+
+} // namespace
 
 Picture::Picture(int width, int height)
     : m_dc(CreateCompatibleDC(nullptr)), m_width(width), m_height(height) {

@@ -65,7 +65,11 @@ TEST_F(Timers, GoWithTheirWindowAndTakeTenMillisecondsAtLeast) {
     EXPECT_EQ(platform::NextTimerDue(), 10);
 }
 
-static DWORD g_tickTime;
+namespace {
+
+DWORD g_tickTime;
+
+} // namespace
 
 TEST_F(Timers, ProcedureIsCalledInsteadOfTheWindow) {
     const TIMERPROC procedure = [](HWND, UINT, UINT_PTR, DWORD time) { g_tickTime = time; };

@@ -64,8 +64,9 @@ TEST_F(Windows, QueuedMessagesGoWithTheWindow) {
     const HWND top = Top("A");
     const HWND child = Child("B", top, 0, 0, 10, 10);
     Log(WM_USER, "user");
-    for (const HWND window : {child, top})
+    for (const HWND window : {child, top}) {
         PostMessageA(window, WM_USER, 0, 0);
+    }
 
     DestroyWindow(child);
     Pump();

@@ -42,19 +42,21 @@ HBITMAP DefaultBitmap() {
     return bitmap;
 }
 
-static void ReadOneBitRow(const BYTE* from, Bitmap& to, int y) {
+namespace {
+
+void ReadOneBitRow(const BYTE* from, Bitmap& to, int y) {
     for (int x = 0; x < to.width; ++x) {
         to.Row(y)[x] = from[x / 8] & (0x80 >> (x % 8)) ? WhitePixel : 0;
     }
 }
 
-static void ReadThreeByteRow(const BYTE* from, Bitmap& to, int y) {
+void ReadThreeByteRow(const BYTE* from, Bitmap& to, int y) {
     for (int x = 0; x < to.width; ++x, from += 3) {
         to.Row(y)[x] = from[0] | static_cast<DWORD>(from[1]) << 8 | static_cast<DWORD>(from[2]) << 16;
     }
 }
 
-static void ReadBits(const void* bits, Bitmap& to) {
+void ReadBits(const void* bits, Bitmap& to) {
     const BYTE* row = static_cast<const BYTE*>(bits);
     for (int y = 0; y < to.height; ++y, row += to.RowBytes()) {
         switch (to.bitCount) {
@@ -66,7 +68,7 @@ static void ReadBits(const void* bits, Bitmap& to) {
 }
 
 // `to` is as long as the bitmap's rows are outside, and zero.
-static void WriteRow(const Bitmap& from, int y, BYTE* to) {
+void WriteRow(const Bitmap& from, int y, BYTE* to) {
     const DWORD* row = from.Row(y);
     for (int x = 0; x < from.width; ++x) {
         if (!from.IsMonochrome()) {
@@ -77,17 +79,19 @@ static void WriteRow(const Bitmap& from, int y, BYTE* to) {
     }
 }
 
-static HBITMAP EnterBitmap(std::unique_ptr<Bitmap> bitmap) {
+HBITMAP EnterBitmap(std::unique_ptr<Bitmap> bitmap) {
     return static_cast<HBITMAP>(EnterObject(std::move(bitmap)));
 }
 
 // Asked before the pixels are, so that a full machine is told alike for every kind of bitmap.
-static bool MayMakeBitmap() { return !platform::FaultTrips("bitmap") || FailWith(ERROR_NOT_ENOUGH_MEMORY); }
+bool MayMakeBitmap() { return !platform::FaultTrips("bitmap") || FailWith(ERROR_NOT_ENOUGH_MEMORY); }
 
-static bool IsTrueColor(const BITMAPINFO* info, UINT usage) {
+bool IsTrueColor(const BITMAPINFO* info, UINT usage) {
     return info && usage == DIB_RGB_COLORS && info->bmiHeader.biBitCount == 32 &&
            info->bmiHeader.biCompression == BI_RGB && info->bmiHeader.biHeight != INT32_MIN;
 }
+
+} // namespace
 
 } // namespace win32
 

@@ -35,7 +35,9 @@ void ForEachRow(const Copy& copy, RowWork work) {
     }
 }
 
-static void CopyRows(const Copy& copy) {
+namespace {
+
+void CopyRows(const Copy& copy) {
     const size_t bytes = static_cast<size_t>(copy.Width()) * sizeof(DWORD);
     if (copy.SamePixels()) {
         ForEachRow(copy, [bytes](DWORD* to, const DWORD* from) { std::memmove(to, from, bytes); });
@@ -43,6 +45,8 @@ static void CopyRows(const Copy& copy) {
         ForEachRow(copy, [bytes](DWORD* to, const DWORD* from) { std::memcpy(to, from, bytes); });
     }
 }
+
+} // namespace
 
 template <typename Mix>
 void MixRows(const Copy& copy, Mix mix) {
@@ -67,10 +71,11 @@ BOOL MixConverted(const Copy& copy, DWORD operation, Convert convert) {
     }
 }
 
+namespace {
+
 // From one bit to colours, clear bits take the target's text colour and set ones its background; the other
 // way, the source's background colour sets a bit.
-static BOOL Transfer(const Copy& copy, const DeviceContext& target, const DeviceContext& source,
-                     DWORD operation) {
+BOOL Transfer(const Copy& copy, const DeviceContext& target, const DeviceContext& source, DWORD operation) {
     if (copy.source.monochrome && !copy.target.monochrome) {
         const DWORD clear = SwapRedBlue(target.textColor);
         const DWORD set = SwapRedBlue(target.bkColor);
@@ -88,12 +93,12 @@ static BOOL Transfer(const Copy& copy, const DeviceContext& target, const Device
     return MixConverted(copy, operation, [](DWORD from) { return from; });
 }
 
-static bool IsSourceOperation(DWORD operation) {
+bool IsSourceOperation(DWORD operation) {
     return operation == SRCCOPY || operation == SRCINVERT || operation == SRCAND || operation == SRCPAINT;
 }
 
 // Limits the copy to pixels that the source has; false when none is left.
-static bool ClipToSource(const DeviceContext& source, POINT from, RECT* to, Copy* copy) {
+bool ClipToSource(const DeviceContext& source, POINT from, RECT* to, Copy* copy) {
     if (!OpenCanvas(source, &copy->source)) {
         return false;
     }
@@ -102,6 +107,8 @@ static bool ClipToSource(const DeviceContext& source, POINT from, RECT* to, Copy
     copy->from = {from.x - to->left, from.y - to->top};
     return IntersectRect(to, to, &have);
 }
+
+} // namespace
 
 } // namespace win32
 

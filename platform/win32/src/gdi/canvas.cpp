@@ -10,7 +10,9 @@ namespace win32 {
 // The squares of lengths below this stay far within 64 bits.
 constexpr LONG FarthestPixel = 1 << 27;
 
-static bool OpenBitmap(const Bitmap& bitmap, Canvas* canvas) {
+namespace {
+
+bool OpenBitmap(const Bitmap& bitmap, Canvas* canvas) {
     canvas->pixels = bitmap.firstRow;
     canvas->stride = bitmap.stride;
     canvas->monochrome = bitmap.IsMonochrome();
@@ -18,7 +20,7 @@ static bool OpenBitmap(const Bitmap& bitmap, Canvas* canvas) {
     return true;
 }
 
-static bool OpenWindow(HWND handle, Canvas* canvas) {
+bool OpenWindow(HWND handle, Canvas* canvas) {
     Window* window = g_windows.Find(handle);
     if (!window) {
         return false;
@@ -30,6 +32,8 @@ static bool OpenWindow(HWND handle, Canvas* canvas) {
     canvas->clip = VisibleArea(*window);
     return canvas->pixels != nullptr;
 }
+
+} // namespace
 
 bool OpenCanvas(const DeviceContext& context, Canvas* canvas) {
     const bool opened = context.kind == DcKind::Memory ? context.bitmap && OpenBitmap(*context.bitmap, canvas)
@@ -72,7 +76,11 @@ bool IsReachable(POINT point) {
            point.y <= FarthestPixel;
 }
 
-static LONG Reach(LONG coordinate) { return std::clamp(coordinate, -FarthestPixel, FarthestPixel); }
+namespace {
+
+LONG Reach(LONG coordinate) { return std::clamp(coordinate, -FarthestPixel, FarthestPixel); }
+
+} // namespace
 
 RECT ToDeviceRect(const DeviceContext& context, int left, int top, int right, int bottom) {
     const POINT a = ToDevice(context, left, top);

@@ -56,7 +56,9 @@ void ReleaseObjects(const DcState& state) {
     ForEachSelected(state, [](unsigned& selected) { --selected; });
 }
 
-static HDC EnterContext(DcKind kind, HWND window) {
+namespace {
+
+HDC EnterContext(DcKind kind, HWND window) {
     std::unique_ptr<DeviceContext> context(new (std::nothrow) DeviceContext);
     DeviceContext* entered = context.get();
     const HDC dc = reinterpret_cast<HDC>(g_contexts.Add(std::move(context)));
@@ -73,7 +75,7 @@ static HDC EnterContext(DcKind kind, HWND window) {
     return dc;
 }
 
-static HDC EnterDisplayContext() {
+HDC EnterDisplayContext() {
     const HDC dc = EnterContext(DcKind::Screen, nullptr);
     if (dc) {
         g_contexts.Find(dc)->created = true;
@@ -81,15 +83,15 @@ static HDC EnterDisplayContext() {
     return dc;
 }
 
-static void DropContext(DeviceContext& context) {
+void DropContext(DeviceContext& context) {
     ReleaseObjects(context);
     std::for_each(context.saved.begin(), context.saved.end(), ReleaseObjects);
     g_contexts.Remove(context.handle);
 }
 
-static bool MayOpen(const char* fault) {
-    return !platform::FaultTrips(fault) || FailWith(ERROR_NOT_ENOUGH_MEMORY);
-}
+bool MayOpen(const char* fault) { return !platform::FaultTrips(fault) || FailWith(ERROR_NOT_ENOUGH_MEMORY); }
+
+} // namespace
 
 HDC OpenWindowDc(HWND window, const RECT* paintArea) {
     if (!MayOpen("display-context")) {
@@ -118,10 +120,14 @@ BOOL CloseDc(HDC dc) {
     return TRUE;
 }
 
-static bool CanTake(const DeviceContext& context, const Bitmap& bitmap) {
+namespace {
+
+bool CanTake(const DeviceContext& context, const Bitmap& bitmap) {
     return context.kind == DcKind::Memory &&
            (bitmap.selected == 0 || bitmap.shared || context.bitmap == &bitmap);
 }
+
+} // namespace
 
 } // namespace win32
 

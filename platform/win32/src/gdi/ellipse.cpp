@@ -11,9 +11,11 @@ struct Span {
     LONG high;
 };
 
+namespace {
+
 // The pixels of row y whose centres lie inside the ellipse of `box`. In units of half a pixel around the
 // middle, the centres of columns and rows are whole numbers, which never lie right on the curve.
-static Span EllipseRow(const RECT& box, LONG y) {
+Span EllipseRow(const RECT& box, LONG y) {
     const LONG width = box.right - box.left;
     const LONG height = box.bottom - box.top;
     if (width <= 0 || y < box.top || y >= box.bottom) {
@@ -26,10 +28,10 @@ static Span EllipseRow(const RECT& box, LONG y) {
     return {left, box.left + columns};
 }
 
-static RECT Row(LONG low, LONG high, LONG y) { return {low, y, high, y + 1}; }
+RECT Row(LONG low, LONG high, LONG y) { return {low, y, high, y + 1}; }
 
 // The row's pixels that have all four neighbours inside, which a thin outline leaves to the brush.
-static Span ThinInside(const RECT& box, LONG y) {
+Span ThinInside(const RECT& box, LONG y) {
     const Span above = EllipseRow(box, y - 1);
     const Span below = EllipseRow(box, y + 1);
     const Span here = EllipseRow(box, y);
@@ -37,7 +39,7 @@ static Span ThinInside(const RECT& box, LONG y) {
             std::min({here.high - 1, above.high, below.high})};
 }
 
-static void DrawRow(const DeviceContext& context, const Canvas& canvas, Span outer, Span inner, LONG y) {
+void DrawRow(const DeviceContext& context, const Canvas& canvas, Span outer, Span inner, LONG y) {
     const Stroke stroke = StrokeOf(context, canvas);
     const bool framed = context.pen->style != PS_NULL;
     const Span inside = inner.low < inner.high ? inner : Span{outer.high, outer.high};
@@ -50,6 +52,8 @@ static void DrawRow(const DeviceContext& context, const Canvas& canvas, Span out
         FillArea(canvas, Row(filled.low, filled.high, y), PixelOf(canvas, context.brush->color), stroke.rop);
     }
 }
+
+} // namespace
 
 } // namespace win32
 

@@ -5,8 +5,10 @@
 
 namespace win32 {
 
+namespace {
+
 // The four strips of `outer` around `inner`, which lies within it; none of their pixels is in two.
-static std::array<RECT, 4> Frame(const RECT& outer, const RECT& inner) {
+std::array<RECT, 4> Frame(const RECT& outer, const RECT& inner) {
     return {{{outer.left, outer.top, outer.right, inner.top},
              {outer.left, inner.bottom, outer.right, outer.bottom},
              {outer.left, inner.top, inner.left, inner.bottom},
@@ -14,7 +16,7 @@ static std::array<RECT, 4> Frame(const RECT& outer, const RECT& inner) {
 }
 
 // What is left inside a frame of this thickness; where that is nothing, an empty rectangle at its middle.
-static RECT Inside(const RECT& outer, LONG thickness) {
+RECT Inside(const RECT& outer, LONG thickness) {
     RECT inner = outer;
     InflateRect(&inner, -thickness, -thickness);
     if (inner.left > inner.right) {
@@ -26,14 +28,14 @@ static RECT Inside(const RECT& outer, LONG thickness) {
     return inner;
 }
 
-static void FillFrame(const Canvas& canvas, const RECT& outer, const RECT& inner, DWORD ink, int rop) {
+void FillFrame(const Canvas& canvas, const RECT& outer, const RECT& inner, DWORD ink, int rop) {
     for (const RECT& strip : Frame(outer, inner)) {
         FillArea(canvas, strip, ink, rop);
     }
 }
 
 // Clockwise from the top left corner; one pixel high or wide it is a single line.
-static void DotFrame(const Canvas& canvas, const Stroke& stroke, const RECT& rect) {
+void DotFrame(const Canvas& canvas, const Stroke& stroke, const RECT& rect) {
     const LONG right = rect.right - 1;
     const LONG bottom = rect.bottom - 1;
     if (right == rect.left || bottom == rect.top) {
@@ -53,13 +55,13 @@ static void DotFrame(const Canvas& canvas, const Stroke& stroke, const RECT& rec
     }
 }
 
-static void FillWithBrush(DeviceContext& context, const Canvas& canvas, const RECT& area) {
+void FillWithBrush(DeviceContext& context, const Canvas& canvas, const RECT& area) {
     if (!context.brush->hollow) {
         FillArea(canvas, area, PixelOf(canvas, context.brush->color), context.rop);
     }
 }
 
-static void DrawRectangle(DeviceContext& context, const Canvas& canvas, const RECT& rect, const RECT& outer) {
+void DrawRectangle(DeviceContext& context, const Canvas& canvas, const RECT& rect, const RECT& outer) {
     const Stroke stroke = StrokeOf(context, canvas);
     const RECT inner = Inside(outer, stroke.width);
     if (stroke.dotted) {
@@ -70,13 +72,15 @@ static void DrawRectangle(DeviceContext& context, const Canvas& canvas, const RE
     FillWithBrush(context, canvas, inner);
 }
 
-static BOOL FillDevice(DeviceContext& context, const RECT& area, COLORREF color, int rop) {
+BOOL FillDevice(DeviceContext& context, const RECT& area, COLORREF color, int rop) {
     Canvas canvas;
     if (OpenForDrawing(context, area, &canvas)) {
         FillArea(canvas, area, PixelOf(canvas, color), rop);
     }
     return TRUE;
 }
+
+} // namespace
 
 } // namespace win32
 

@@ -94,8 +94,10 @@ struct Range {
     bool Holds(LONG value) const { return value >= low && value < high; }
 };
 
-static void WalkThin(const Canvas& canvas, const Stroke& stroke, const Course& course, Range along,
-                     Range across, unsigned phase) {
+namespace {
+
+void WalkThin(const Canvas& canvas, const Stroke& stroke, const Course& course, Range along, Range across,
+              unsigned phase) {
     // Where in the pattern the next pixel stands; the first one's place alone takes a division.
     unsigned place = DotPeriod;
     Walk(course, course.length, along.low, along.high, [&](LONG a, LONG c, LONGLONG step) {
@@ -112,8 +114,7 @@ static void WalkThin(const Canvas& canvas, const Stroke& stroke, const Course& c
 }
 
 // Each step paints the pen's width across the course, so no pixel is met twice and inverting pens stay true.
-static void WalkWide(const Canvas& canvas, const Stroke& stroke, const Course& course, Range along,
-                     Range across) {
+void WalkWide(const Canvas& canvas, const Stroke& stroke, const Course& course, Range along, Range across) {
     Walk(course, course.length + 1, along.low, along.high, [&](LONG a, LONG c, LONGLONG) {
         const LONG low = std::max(c - stroke.width / 2, across.low);
         const LONG high = std::min(c - stroke.width / 2 + stroke.width, across.high);
@@ -122,6 +123,8 @@ static void WalkWide(const Canvas& canvas, const Stroke& stroke, const Course& c
         }
     });
 }
+
+} // namespace
 
 unsigned StrokeLine(const Canvas& canvas, const Stroke& stroke, POINT from, POINT to, unsigned phase) {
     const Course course(from, to);
@@ -137,8 +140,10 @@ unsigned StrokeLine(const Canvas& canvas, const Stroke& stroke, POINT from, POIN
     return static_cast<unsigned>((phase + static_cast<ULONGLONG>(course.length)) % DotPeriod);
 }
 
+namespace {
+
 // A hidden line counts for the dotted pattern as a visible one does.
-static unsigned DrawSegment(DeviceContext& context, POINT from, POINT to, unsigned phase) {
+unsigned DrawSegment(DeviceContext& context, POINT from, POINT to, unsigned phase) {
     Canvas canvas;
     if (context.pen->style == PS_NULL || !OpenForDrawing(context, StrokeBox(context, from, to), &canvas)) {
         const Course course(from, to);
@@ -146,6 +151,8 @@ static unsigned DrawSegment(DeviceContext& context, POINT from, POINT to, unsign
     }
     return StrokeLine(canvas, StrokeOf(context, canvas), from, to, phase);
 }
+
+} // namespace
 
 } // namespace win32
 

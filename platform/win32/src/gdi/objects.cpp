@@ -10,7 +10,11 @@ namespace win32 {
 
 constinit CHandleTable<GdiObject, HandleKind::GdiObject> g_objects;
 
-static unsigned g_sharedObjects = 0;
+namespace {
+
+unsigned g_sharedObjects = 0;
+
+} // namespace
 
 HGDIOBJ EnterObject(std::unique_ptr<GdiObject> object) {
     GdiObject* entered = object.get();
@@ -34,7 +38,9 @@ HGDIOBJ EnterShared(std::unique_ptr<GdiObject> object) {
 
 unsigned SharedObjects() { return g_sharedObjects; }
 
-static std::unique_ptr<Pen> MakePen(int style, int width, COLORREF color) {
+namespace {
+
+std::unique_ptr<Pen> MakePen(int style, int width, COLORREF color) {
     std::unique_ptr<Pen> pen(new (std::nothrow) Pen);
     if (pen) {
         pen->width = std::clamp(width, 1, 32767);
@@ -45,7 +51,7 @@ static std::unique_ptr<Pen> MakePen(int style, int width, COLORREF color) {
     return pen;
 }
 
-static std::unique_ptr<Brush> MakeBrush(COLORREF color, bool hollow) {
+std::unique_ptr<Brush> MakeBrush(COLORREF color, bool hollow) {
     std::unique_ptr<Brush> brush(new (std::nothrow) Brush);
     if (brush) {
         brush->color = color;
@@ -54,9 +60,13 @@ static std::unique_ptr<Brush> MakeBrush(COLORREF color, bool hollow) {
     return brush;
 }
 
+} // namespace
+
 using Stock = std::array<HGDIOBJ, DEFAULT_GUI_FONT + 1>;
 
-static Stock MakeStock() {
+namespace {
+
+Stock MakeStock() {
     Stock stock{};
     stock[WHITE_BRUSH] = EnterShared(MakeBrush(RGB(255, 255, 255), false));
     stock[LTGRAY_BRUSH] = EnterShared(MakeBrush(RGB(192, 192, 192), false));
@@ -72,6 +82,8 @@ static Stock MakeStock() {
     return stock;
 }
 
+} // namespace
+
 struct SystemColor {
     int index;
     COLORREF color;
@@ -86,11 +98,15 @@ constexpr std::array<SystemColor, 6> SystemColors = {{
     {COLOR_BTNFACE, RGB(192, 192, 192)},
 }};
 
-static const SystemColor* FindSystemColor(int index) {
+namespace {
+
+const SystemColor* FindSystemColor(int index) {
     const auto found = std::find_if(SystemColors.begin(), SystemColors.end(),
                                     [index](const SystemColor& c) { return c.index == index; });
     return found == SystemColors.end() ? nullptr : &*found;
 }
+
+} // namespace
 
 // System colours are few; anything above their numbers is a handle.
 constexpr UINT_PTR LastSystemBrush = 31;
@@ -101,7 +117,9 @@ const Brush* FindBrush(HBRUSH handle) {
                                                       : handle);
 }
 
-static int CopyOut(const void* record, int recordSize, int size, void* out) {
+namespace {
+
+int CopyOut(const void* record, int recordSize, int size, void* out) {
     if (!out) {
         return recordSize;
     }
@@ -110,7 +128,7 @@ static int CopyOut(const void* record, int recordSize, int size, void* out) {
     return copied;
 }
 
-static BITMAP Describe(const Bitmap& bitmap) {
+BITMAP Describe(const Bitmap& bitmap) {
     BITMAP record = {};
     record.bmWidth = bitmap.width;
     record.bmHeight = bitmap.height;
@@ -120,6 +138,8 @@ static BITMAP Describe(const Bitmap& bitmap) {
     record.bmBits = bitmap.section ? bitmap.pixels.get() : nullptr;
     return record;
 }
+
+} // namespace
 
 } // namespace win32
 

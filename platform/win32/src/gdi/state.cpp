@@ -6,14 +6,16 @@
 
 namespace win32 {
 
-static void Tell(LPPOINT out, POINT value) {
+namespace {
+
+void Tell(LPPOINT out, POINT value) {
     if (out) {
         *out = value;
     }
 }
 
 // Sets one of a context's points and tells the one before; FALSE for a bad context.
-static BOOL ExchangePoint(HDC dc, POINT DeviceContext::*field, POINT value, LPPOINT previous) {
+BOOL ExchangePoint(HDC dc, POINT DeviceContext::*field, POINT value, LPPOINT previous) {
     DeviceContext* context = FindDc(dc);
     if (!context) {
         return FALSE;
@@ -22,7 +24,7 @@ static BOOL ExchangePoint(HDC dc, POINT DeviceContext::*field, POINT value, LPPO
     return TRUE;
 }
 
-static BOOL GetPoint(HDC dc, POINT DeviceContext::*field, LPPOINT point) {
+BOOL GetPoint(HDC dc, POINT DeviceContext::*field, LPPOINT point) {
     const DeviceContext* context = FindDc(dc);
     if (!context || !point) {
         return FALSE;
@@ -31,15 +33,17 @@ static BOOL GetPoint(HDC dc, POINT DeviceContext::*field, LPPOINT point) {
     return TRUE;
 }
 
-static COLORREF ExchangeColor(HDC dc, COLORREF DeviceContext::*field, COLORREF color) {
+COLORREF ExchangeColor(HDC dc, COLORREF DeviceContext::*field, COLORREF color) {
     DeviceContext* context = FindDc(dc);
     return context ? std::exchange(context->*field, color & 0x00FFFFFF) : CLR_INVALID;
 }
 
-static COLORREF GetColor(HDC dc, COLORREF DeviceContext::*field) {
+COLORREF GetColor(HDC dc, COLORREF DeviceContext::*field) {
     const DeviceContext* context = FindDc(dc);
     return context ? context->*field : CLR_INVALID;
 }
+
+} // namespace
 
 } // namespace win32
 

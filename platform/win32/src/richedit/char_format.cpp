@@ -21,12 +21,16 @@ CHARFORMATA FirstFormat() {
     return format;
 }
 
-static void CopyFace(CHARFORMATA& to, const CHARFORMATA& from) {
+namespace {
+
+void CopyFace(CHARFORMATA& to, const CHARFORMATA& from) {
     const size_t length = strnlen(from.szFaceName, sizeof from.szFaceName - 1);
     std::memset(to.szFaceName, 0, sizeof to.szFaceName);
     std::memcpy(to.szFaceName, from.szFaceName, length);
     to.bPitchAndFamily = from.bPitchAndFamily;
 }
+
+} // namespace
 
 void ApplyFormat(CHARFORMATA& format, const CHARFORMATA& change) {
     const DWORD effects = change.dwMask & EffectBits;

@@ -7,7 +7,9 @@ namespace win32 {
 
 constexpr size_t LongestText = std::numeric_limits<LONG>::max();
 
-static std::string WithFullLineEnds(std::string_view text) {
+namespace {
+
+std::string WithFullLineEnds(std::string_view text) {
     std::string full;
     full.reserve(text.size());
     while (!text.empty()) {
@@ -21,6 +23,8 @@ static std::string WithFullLineEnds(std::string_view text) {
     }
     return full;
 }
+
+} // namespace
 
 std::string_view CRichText::SelectedText() const {
     return std::string_view(m_text).substr(static_cast<size_t>(m_selection.cpMin),

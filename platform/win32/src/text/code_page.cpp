@@ -41,8 +41,10 @@ std::array<char, 8> ConverterName(UINT number) {
     return name;
 }
 
+namespace {
+
 // NoCharacter where the bytes are not one character.
-static WCHAR Convert(iconv_t converter, const char* bytes, size_t count) {
+WCHAR Convert(iconv_t converter, const char* bytes, size_t count) {
     std::array<WCHAR, 2> wide{};
     char* in = const_cast<char*>(bytes);
     char* out = reinterpret_cast<char*>(wide.data());
@@ -52,7 +54,7 @@ static WCHAR Convert(iconv_t converter, const char* bytes, size_t count) {
     return converted && room == sizeof(WCHAR) ? wide[0] : NoCharacter;
 }
 
-static void FillPairs(CodePage& page, iconv_t converter) {
+void FillPairs(CodePage& page, iconv_t converter) {
     for (int lead = 0; lead < 256; ++lead) {
         for (int trail = 0x40; page.lead[static_cast<size_t>(lead)] && trail < 256; ++trail) {
             const char bytes[] = {static_cast<char>(lead), static_cast<char>(trail)};
@@ -62,7 +64,7 @@ static void FillPairs(CodePage& page, iconv_t converter) {
     }
 }
 
-static void FillSingles(CodePage& page, iconv_t converter) {
+void FillSingles(CodePage& page, iconv_t converter) {
     for (size_t byte = 0; byte < page.single.size(); ++byte) {
         const char text = static_cast<char>(byte);
         page.single[byte] = byte < 0x80       ? static_cast<WCHAR>(byte)
@@ -71,7 +73,7 @@ static void FillSingles(CodePage& page, iconv_t converter) {
     }
 }
 
-static void MarkLeads(CodePage& page) {
+void MarkLeads(CodePage& page) {
     for (const LeadRange& range : LeadRanges) {
         if (range.codePage == page.number) {
             std::fill(page.lead.begin() + range.first, page.lead.begin() + range.last + 1, true);
@@ -79,7 +81,7 @@ static void MarkLeads(CodePage& page) {
     }
 }
 
-static std::unique_ptr<CodePage> MakeCodePage(UINT number) {
+std::unique_ptr<CodePage> MakeCodePage(UINT number) {
     constexpr size_t PairCount = 65536;
     auto page = std::make_unique<CodePage>();
     page->number = number;
@@ -98,6 +100,8 @@ static std::unique_ptr<CodePage> MakeCodePage(UINT number) {
     return page;
 }
 
+} // namespace
+
 const CodePage* FindCodePage(UINT number) {
     static auto& pages = *new std::vector<std::unique_ptr<CodePage>>;
     number = number == CP_ACP ? g_systemCodePage : number;
@@ -113,10 +117,14 @@ const CodePage* FindCodePage(UINT number) {
     return pages.back().get();
 }
 
-static const CodePage*& Current() {
+namespace {
+
+const CodePage*& Current() {
     static const CodePage* page = FindCodePage(g_systemCodePage);
     return page;
 }
+
+} // namespace
 
 const CodePage& SystemCodePage() { return *Current(); }
 

@@ -9,7 +9,9 @@ namespace win32 {
 constexpr UINT HorizontalBits = TA_CENTER;
 constexpr UINT VerticalBits = TA_BASELINE;
 
-static int RowsAbovePoint(const CFontInstance& font, UINT align) {
+namespace {
+
+int RowsAbovePoint(const CFontInstance& font, UINT align) {
     switch (align & VerticalBits) {
     case TA_BASELINE: return font.Ascent();
     case TA_BOTTOM: return font.Height();
@@ -17,7 +19,7 @@ static int RowsAbovePoint(const CFontInstance& font, UINT align) {
     }
 }
 
-static int ColumnsBeforePoint(int extent, UINT align) {
+int ColumnsBeforePoint(int extent, UINT align) {
     switch (align & HorizontalBits) {
     case TA_CENTER: return extent / 2;
     case TA_RIGHT: return extent;
@@ -26,13 +28,15 @@ static int ColumnsBeforePoint(int extent, UINT align) {
 }
 
 // A share of 0 leaves the pixel, one of 256 makes it the ink. No part of a product reaches into the next.
-static DWORD Blend(DWORD pixel, DWORD ink, DWORD share) {
+DWORD Blend(DWORD pixel, DWORD ink, DWORD share) {
     constexpr DWORD RedBlue = 0x00FF00FF;
     constexpr DWORD Green = 0x0000FF00;
     const DWORD rest = 256 - share;
     return (((pixel & RedBlue) * rest + (ink & RedBlue) * share) >> 8 & RedBlue) |
            (((pixel & Green) * rest + (ink & Green) * share) >> 8 & Green);
 }
+
+} // namespace
 
 // A pixel's bytes stand in two lanes of 16 bits, the first and third low, the second and fourth high.
 struct InkLanes {
@@ -48,8 +52,10 @@ struct InkLanes {
     Quad::Lanes high{};
 };
 
+namespace {
+
 // As Blend, four pixels at once; the products wrap around, their sum does not.
-static void BlendQuad(DWORD* pixels, const InkLanes& ink, const Quad::Lanes& share) {
+void BlendQuad(DWORD* pixels, const InkLanes& ink, const Quad::Lanes& share) {
     Quad::Lanes old;
     std::memcpy(&old, pixels, sizeof old);
     const Quad::Lanes low = old & 0xFF;
@@ -59,6 +65,8 @@ static void BlendQuad(DWORD* pixels, const InkLanes& ink, const Quad::Lanes& sha
     const Quad::Lanes mixed = mixedLow | mixedHigh;
     std::memcpy(pixels, &mixed, sizeof mixed);
 }
+
+} // namespace
 
 /// Draws pictures of one ink on an open canvas.
 class CGlyphPainter {
@@ -118,8 +126,9 @@ class CGlyphPainter {
     const bool m_wholeRows; // Every row of a picture may be drawn, and in colours.
 };
 
-static void DrawGlyphs(const Canvas& canvas, CFontInstance& font, std::string_view text, POINT corner,
-                       DWORD ink) {
+namespace {
+
+void DrawGlyphs(const Canvas& canvas, CFontInstance& font, std::string_view text, POINT corner, DWORD ink) {
     const CGlyphPainter painter(canvas, ink, corner.y, font.Rows());
     const LONG overhang = font.Overhang();
     const LONG end = canvas.clip.right + overhang;
@@ -136,13 +145,13 @@ static void DrawGlyphs(const Canvas& canvas, CFontInstance& font, std::string_vi
     }
 }
 
-static void DrawBar(const Canvas& canvas, const RECT& cell, const Bar& bar, DWORD ink) {
+void DrawBar(const Canvas& canvas, const RECT& cell, const Bar& bar, DWORD ink) {
     FillArea(canvas, {cell.left, cell.top + bar.top, cell.right, cell.top + bar.top + bar.height}, ink,
              R2_COPYPEN);
 }
 
 // `cell` is the text's extent, in device pixels.
-static void DrawText(DeviceContext& context, const Canvas& canvas, std::string_view text, const RECT& cell) {
+void DrawText(DeviceContext& context, const Canvas& canvas, std::string_view text, const RECT& cell) {
     CFontInstance& font = InstanceOf(*context.font);
     if (context.bkMode == OPAQUE) {
         FillArea(canvas, cell, PixelOf(canvas, context.bkColor), R2_COPYPEN);
@@ -156,6 +165,8 @@ static void DrawText(DeviceContext& context, const Canvas& canvas, std::string_v
         DrawBar(canvas, cell, font.StrikeOut(), ink);
     }
 }
+
+} // namespace
 
 } // namespace win32
 

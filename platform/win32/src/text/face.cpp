@@ -17,7 +17,9 @@ constexpr int LargestPicture = 4096;
 // Up to so many pixels a picture is kept in quads, too.
 constexpr int LargestQuadPicture = 64 * 64;
 
-static FT_Library Library() {
+namespace {
+
+FT_Library Library() {
     static const FT_Library library = [] {
         FT_Library made = nullptr;
         return FT_Init_FreeType(&made) == 0 ? made : nullptr;
@@ -25,7 +27,7 @@ static FT_Library Library() {
     return library;
 }
 
-static FT_FaceRec_* OpenRecord(const FontFile& file) {
+FT_FaceRec_* OpenRecord(const FontFile& file) {
     struct Opened {
         std::string path;
         int index;
@@ -50,6 +52,8 @@ static FT_FaceRec_* OpenRecord(const FontFile& file) {
     return record;
 }
 
+} // namespace
+
 Face OpenFace(const FontFile& file, bool bold, bool italic) {
     return {OpenRecord(file), bold && !file.bold, italic && !file.italic};
 }
@@ -71,8 +75,10 @@ int Face::Advance(unsigned glyph, int em) const {
     return static_cast<int>((2 * LONGLONG{advance} * em + units) / (2 * units));
 }
 
+namespace {
+
 // The part of the picture that lies in the line's rows.
-static Glyph CopyRows(const FT_Bitmap& bitmap, int left, int top, const GlyphLine& line) {
+Glyph CopyRows(const FT_Bitmap& bitmap, int left, int top, const GlyphLine& line) {
     Glyph glyph;
     const int first = std::max(0, -top);
     const int end = std::min(static_cast<int>(bitmap.rows), line.Rows() - top);
@@ -88,13 +94,13 @@ static Glyph CopyRows(const FT_Bitmap& bitmap, int left, int top, const GlyphLin
     return glyph;
 }
 
-static void Sharpen(Glyph& glyph) {
+void Sharpen(Glyph& glyph) {
     for (BYTE& coverage : glyph.coverage) {
         coverage = coverage >= 128 ? 255 : 0;
     }
 }
 
-static Quad QuadAt(const Glyph& glyph, int x, int y) {
+Quad QuadAt(const Glyph& glyph, int x, int y) {
     Quad quad{};
     quad.x = x;
     quad.y = glyph.top + y;
@@ -105,7 +111,7 @@ static Quad QuadAt(const Glyph& glyph, int x, int y) {
     return quad;
 }
 
-static void AddQuads(Glyph& glyph) {
+void AddQuads(Glyph& glyph) {
     if (glyph.width * glyph.height > LargestQuadPicture) {
         return;
     }
@@ -122,7 +128,7 @@ static void AddQuads(Glyph& glyph) {
     }
 }
 
-static void Restyle(const Face& face, FT_Outline& outline, int em) {
+void Restyle(const Face& face, FT_Outline& outline, int em) {
     if (face.embolden) {
         constexpr int EmPerStrength = 24;
         FT_Outline_EmboldenXY(&outline, em * 64 / EmPerStrength, 0);
@@ -135,13 +141,15 @@ static void Restyle(const Face& face, FT_Outline& outline, int em) {
 }
 
 // The box of the outline in whole pixels is within what a picture may be.
-static bool IsDrawable(const FT_Outline& outline) {
+bool IsDrawable(const FT_Outline& outline) {
     FT_BBox box;
     FT_Outline_Get_CBox(&outline, &box);
     constexpr FT_Pos Limit = LargestPicture * 64;
     return std::abs(box.xMin) < 2 * Limit && std::abs(box.yMin) < 2 * Limit && box.xMax - box.xMin < Limit &&
            box.yMax - box.yMin < Limit;
 }
+
+} // namespace
 
 Glyph Face::Draw(unsigned glyph, const GlyphLine& line) const {
     FT_GlyphSlot slot = record->glyph;

@@ -12,8 +12,10 @@ constexpr int LargestEm = 16384;
 // With more pictures than this an instance draws all anew.
 constexpr size_t PictureMemory = 32U << 20;
 
+namespace {
+
 // The text in UTF-8, as far as the code page has it.
-static std::string ToUtf8(const CodePage& page, const std::string& text) {
+std::string ToUtf8(const CodePage& page, const std::string& text) {
     std::string out;
     const int count = static_cast<int>(text.size());
     for (int at = 0; at < count;) {
@@ -34,19 +36,19 @@ static std::string ToUtf8(const CodePage& page, const std::string& text) {
 }
 
 // Pixels, rounded up, of a measure in the face's units.
-static int ScaleUp(int units, int em, int unitsPerEm) {
+int ScaleUp(int units, int em, int unitsPerEm) {
     const LONGLONG scaled = LONGLONG{units} * em;
     return static_cast<int>(scaled > 0 ? (scaled + unitsPerEm - 1) / unitsPerEm : -(-scaled / unitsPerEm));
 }
 
 // Pixels of a line of the face, rounded once, to nearest, so that lines grow as their sizes do.
-static int LineHeight(const FaceMetrics& metrics, int em) {
+int LineHeight(const FaceMetrics& metrics, int em) {
     const LONGLONG units = metrics.ascent + metrics.descent;
     return std::max(static_cast<int>((2 * units * em + metrics.unitsPerEm) / (2 * metrics.unitsPerEm)), 1);
 }
 
 // The largest size whose lines are no higher than the cell.
-static int EmOfCell(const FaceMetrics& metrics, int cell) {
+int EmOfCell(const FaceMetrics& metrics, int cell) {
     const int units = std::max(metrics.ascent + metrics.descent, 1);
     int em = static_cast<int>(LONGLONG{cell} * metrics.unitsPerEm / units) + 1;
     while (em > 1 && LineHeight(metrics, em) > cell) {
@@ -54,6 +56,8 @@ static int EmOfCell(const FaceMetrics& metrics, int cell) {
     }
     return em;
 }
+
+} // namespace
 
 CFontInstance::CFontInstance(const FontKey& key) : m_key(key), m_page(SystemCodePage()) {
     OpenFaces();

@@ -36,7 +36,9 @@ struct FontconfigDeleter {
 template <typename T>
 using FontconfigPtr = std::unique_ptr<T, FontconfigDeleter>;
 
-static FcConfig* MakeConfig() {
+namespace {
+
+FcConfig* MakeConfig() {
     FontconfigPtr<FcConfig> config(FcConfigCreate());
     const auto* settings = reinterpret_cast<const FcChar8*>(Settings);
     const bool built = config && FcConfigParseAndLoadFromMemory(config.get(), settings, FcFalse) &&
@@ -44,12 +46,12 @@ static FcConfig* MakeConfig() {
     return built ? config.release() : nullptr;
 }
 
-static FcConfig* Config() {
+FcConfig* Config() {
     static FcConfig* const config = MakeConfig();
     return config;
 }
 
-static FontconfigPtr<FcPattern> PatternOf(const FaceRequest& request) {
+FontconfigPtr<FcPattern> PatternOf(const FaceRequest& request) {
     FontconfigPtr<FcPattern> pattern(FcPatternCreate());
     if (!request.family.empty()) {
         FcPatternAddString(pattern.get(), FC_FAMILY,
@@ -66,23 +68,25 @@ static FontconfigPtr<FcPattern> PatternOf(const FaceRequest& request) {
     return pattern;
 }
 
-static std::string Text(const FcPattern* font, const char* object) {
+std::string Text(const FcPattern* font, const char* object) {
     FcChar8* text = nullptr;
     return FcPatternGetString(font, object, 0, &text) == FcResultMatch ? reinterpret_cast<char*>(text) : "";
 }
 
-static int Number(const FcPattern* font, const char* object) {
+int Number(const FcPattern* font, const char* object) {
     int number = 0;
     FcPatternGetInteger(font, object, 0, &number);
     return number;
 }
 
-static FontFile Describe(const FcPattern* font) {
+FontFile Describe(const FcPattern* font) {
     return {Text(font, FC_FILE), Number(font, FC_INDEX), Text(font, FC_FAMILY),
             Number(font, FC_WEIGHT) >= FC_WEIGHT_DEMIBOLD, Number(font, FC_SLANT) != FC_SLANT_ROMAN};
 }
 
-static bool IsForOthers(const FontFile& font) { return !font.family.starts_with("DejaVu"); }
+bool IsForOthers(const FontFile& font) { return !font.family.starts_with("DejaVu"); }
+
+} // namespace
 
 std::vector<FontFile> MatchFonts(const FaceRequest& request) {
     std::vector<FontFile> fonts;

@@ -11,7 +11,9 @@ constexpr LONG BoldFrom = 551;
 // Fonts come and go with each change of a text; so many instances outlive theirs.
 constexpr size_t KeptInstances = 16;
 
-static FontKey KeyOf(const LOGFONTA& font) {
+namespace {
+
+FontKey KeyOf(const LOGFONTA& font) {
     return {{font.lfFaceName, strnlen(font.lfFaceName, LF_FACESIZE)},
             font.lfHeight,
             font.lfWeight >= BoldFrom,
@@ -21,7 +23,7 @@ static FontKey KeyOf(const LOGFONTA& font) {
 }
 
 // The last used stands first.
-static std::shared_ptr<CFontInstance> FindInstance(const FontKey& key) {
+std::shared_ptr<CFontInstance> FindInstance(const FontKey& key) {
     static auto& kept = *new std::vector<std::shared_ptr<CFontInstance>>;
     const auto found =
         std::find_if(kept.begin(), kept.end(), [&](const auto& instance) { return instance->Key() == key; });
@@ -34,9 +36,13 @@ static std::shared_ptr<CFontInstance> FindInstance(const FontKey& key) {
     return kept.front();
 }
 
+} // namespace
+
 void Realize(Font& font) { font.instance = FindInstance(KeyOf(font.description)); }
 
-static std::unique_ptr<Font> MakeFont(const LOGFONTA& description) {
+namespace {
+
+std::unique_ptr<Font> MakeFont(const LOGFONTA& description) {
     std::unique_ptr<Font> font(new (std::nothrow) Font);
     if (font) {
         font->description = description;
@@ -44,6 +50,8 @@ static std::unique_ptr<Font> MakeFont(const LOGFONTA& description) {
     }
     return font;
 }
+
+} // namespace
 
 std::unique_ptr<Font> MakeStockFont() {
     LOGFONTA description = {};

@@ -12,7 +12,9 @@ struct Partial {
     int* dx;
 };
 
-static int MeasurePlainPrefix(const CFontInstance& font, LPCSTR text, int count, int limit, int* dx) {
+namespace {
+
+int MeasurePlainPrefix(const CFontInstance& font, LPCSTR text, int count, int limit, int* dx) {
     int extent = 0;
     for (int at = 0; at < count; ++at) {
         extent += font.ByteAdvance(text[at]);
@@ -27,7 +29,7 @@ static int MeasurePlainPrefix(const CFontInstance& font, LPCSTR text, int count,
 }
 
 // Character by character, until one does not fit; the bytes that fit.
-static int MeasurePrefix(CFontInstance& font, LPCSTR text, int count, int limit, int* dx) {
+int MeasurePrefix(CFontInstance& font, LPCSTR text, int count, int limit, int* dx) {
     if (font.IsPlain(count)) {
         return MeasurePlainPrefix(font, text, count, limit, dx);
     }
@@ -47,7 +49,7 @@ static int MeasurePrefix(CFontInstance& font, LPCSTR text, int count, int limit,
     return at;
 }
 
-static BOOL MeasureText(HDC dc, LPCSTR text, int count, const Partial& partial, LPSIZE size) {
+BOOL MeasureText(HDC dc, LPCSTR text, int count, const Partial& partial, LPSIZE size) {
     const DeviceContext* context = FindDc(dc);
     if (!context || !size || count < 0 || (!text && count > 0)) {
         return context ? FailWith(ERROR_INVALID_PARAMETER) : FALSE;
@@ -61,6 +63,8 @@ static BOOL MeasureText(HDC dc, LPCSTR text, int count, const Partial& partial, 
     *size = {font.Extent(text, count), font.Height()};
     return TRUE;
 }
+
+} // namespace
 
 } // namespace win32
 

@@ -1,16 +1,20 @@
 #include "../stage.h"
 
-static HBRUSH WhiteBrush() { return static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)); }
+namespace {
+
+HBRUSH WhiteBrush() { return static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)); }
 
 /// What the shape's operation leaves of a picture of this size when it is drawn with stock objects.
-static Rows Drawn(decltype(&Rectangle) shape, int width, int height, RECT rect, int pen = BLACK_PEN,
-                  int brush = WHITE_BRUSH) {
+Rows Drawn(decltype(&Rectangle) shape, int width, int height, RECT rect, int pen = BLACK_PEN,
+           int brush = WHITE_BRUSH) {
     Picture picture(width, height);
     SelectObject(picture.Dc(), GetStockObject(pen));
     SelectObject(picture.Dc(), GetStockObject(brush));
     shape(picture.Dc(), rect.left, rect.top, rect.right, rect.bottom);
     return picture.Rows();
 }
+
+} // namespace
 
 TEST(Rectangles, FrameStandsInsideRightAndBottomWhateverTheOrderOfCorners) {
     const Rows expected = {"------", "-kkkk-", "-kWWk-", "-kkkk-", "------"};
@@ -46,9 +50,11 @@ TEST(Rectangles, DottedFrameRunsRoundClockwise) {
     EXPECT_EQ(picture.Rows(), (Rows{"WWWkk", "W---k", "W---W", "kkkWW"}));
 }
 
+namespace {
+
 /// The pixels of a black picture that the shape's white frame and inside leave white when drawn by exclusive
 /// or.
-static Rows Toggled(decltype(&Rectangle) shape, int size, int width, int height) {
+Rows Toggled(decltype(&Rectangle) shape, int size, int width, int height) {
     Picture picture(size, size);
     PatBlt(picture.Dc(), 0, 0, size, size, BLACKNESS);
     picture.Use(CreatePen(PS_SOLID, 1, White));
@@ -57,11 +63,14 @@ static Rows Toggled(decltype(&Rectangle) shape, int size, int width, int height)
     return picture.Rows();
 }
 
+} // namespace
+
 TEST(Rectangles, TouchEachPixelOnce) {
     for (const POINT size : {POINT{1, 1}, {1, 5}, {5, 1}, {2, 2}, {2, 6}, {3, 3}, {6, 4}}) {
         const Rows rows = Toggled(Rectangle, 6, size.x, size.y);
-        for (int i = 0; i < 36; ++i)
+        for (int i = 0; i < 36; ++i) {
             EXPECT_EQ(rows[i / 6][i % 6] == 'W', i % 6 < size.x && i / 6 < size.y) << size.x << " " << i;
+        }
     }
 }
 

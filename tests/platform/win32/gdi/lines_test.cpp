@@ -1,9 +1,13 @@
 #include "../stage.h"
 
-static void Draw(const Picture& picture, POINT from, POINT to) {
+namespace {
+
+void Draw(const Picture& picture, POINT from, POINT to) {
     MoveToEx(picture.Dc(), from.x, from.y, nullptr);
     LineTo(picture.Dc(), to.x, to.y);
 }
+
+} // namespace
 
 TEST(Lines, LeaveTheLastPixelOutAndTakeTheSameBetweenTheEndsBothWays) {
     struct Row {
@@ -42,8 +46,9 @@ TEST(Lines, DottedOnesRunThreeOnThreeOffThroughCornersClipsAndHiddenParts) {
         SetBkColor(picture.Dc(), Black);
         SetBkMode(picture.Dc(), row.background);
         MoveToEx(picture.Dc(), row.points[0].x, row.points[0].y, nullptr);
-        for (std::size_t i = 1; i < row.points.size(); ++i)
+        for (std::size_t i = 1; i < row.points.size(); ++i) {
             LineTo(picture.Dc(), row.points[i].x, row.points[i].y);
+        }
         EXPECT_EQ(picture.Rows(), Rows{row.expected});
     }
 }
