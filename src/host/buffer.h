@@ -11,8 +11,8 @@ inline constexpr int BufReadWrite = 3;
 
 /// Allocates a buffer of `nWidth` by `nHeight` pixels of `nBits` (8, 24 or 32) bits. Rows stand directly
 /// behind each other without padding; 24-bit pixels are blue, green, red. `nFill` is 1 to clear the pixels to
-/// zero. `pReserved` may be null and receives 0. Answers 1, or 0 when the sizes are out of range (1 to
-/// 32,767) or memory is out.
+/// zero. `pReserved` may be null and receives 0. Answers 1, or 0 when a side is out of range (1 to
+/// 32,767), the pixels are more than 2^27, or memory or the host's room for pixels is out.
 int buf32Alloc(HBUF32* phBuf, int nBits, int nWidth, int nHeight, int nFill, int* pReserved);
 /// Gives the address of the first pixel and counts a lock. Null for a bad handle.
 void* buf32Lock(HBUF32 hBuf, int nMode);
