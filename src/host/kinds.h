@@ -10,23 +10,20 @@ inline constexpr GUID CategoryId = {
 inline constexpr GUID EditCategoryId = {
     0x78B62D71, 0xBCE8, 0x4B2E, {0x97, 0xFB, 0x54, 0x30, 0x9A, 0xBC, 0x59, 0x88}};
 
-/// Kind numbers under CategoryId. The tools' own kinds stand in the tool catalog.
+/// Kind numbers under CategoryId. The tool classes' own are in `tool_kind`.
 namespace kind {
-inline constexpr int Any = 0;              ///< answered by every listener of the canvas
-inline constexpr int PropertyArea = 1;     ///< the property page that is showing
-inline constexpr int Tool = 3;             ///< every tool
-inline constexpr int Document = 4;         ///< the document service
-inline constexpr int ComposedPage = 6;     ///< the property page of both object sorts
-inline constexpr int ObjectPage = 7;       ///< the property page of picture objects
-inline constexpr int TextPage = 12;        ///< the property page of text objects
-inline constexpr int DisplayToolBase = 15; ///< tools that set display values
-inline constexpr int FrameToolBase = 16;   ///< tools that set frames
-inline constexpr int ShadowToolBase = 17;  ///< tools that set shadows
-inline constexpr int PageObjects = 27;     ///< receives node-level notifications
-inline constexpr int CurrentTool = 37;     ///< the state asked of a tool: is it the current one
-inline constexpr int ChangeReceiver = 38;  ///< global, told after objects changed
-inline constexpr int RedrawReceiver = 45;  ///< global, told after objects were redrawn
-inline constexpr int ChangeTracker = 51;   ///< global, told first after objects changed
+inline constexpr int Any = 0;             ///< answered by every listener of the canvas
+inline constexpr int PropertyArea = 1;    ///< the property page that is showing
+inline constexpr int Tool = 3;            ///< every tool
+inline constexpr int Document = 4;        ///< the document service
+inline constexpr int ComposedPage = 6;    ///< the property page of both object sorts
+inline constexpr int ObjectPage = 7;      ///< the property page of picture objects
+inline constexpr int TextPage = 12;       ///< the property page of text objects
+inline constexpr int PageObjects = 27;    ///< receives node-level notifications
+inline constexpr int CurrentTool = 37;    ///< the state asked of a tool: is it the current one
+inline constexpr int ChangeReceiver = 38; ///< global, told after objects changed
+inline constexpr int RedrawReceiver = 45; ///< global, told after objects were redrawn
+inline constexpr int ChangeTracker = 51;  ///< global, told first after objects changed
 } // namespace kind
 
 /// Kind numbers under EditCategoryId.

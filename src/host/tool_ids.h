@@ -65,13 +65,13 @@ inline constexpr int AdaptiveCombo = 15;
 
 /// The bus kinds that `GetPanelKind` answers.
 namespace panel_kind {
-inline constexpr int Composed = 6;
-inline constexpr int Object = 7;
+inline constexpr int Composed = kind::ComposedPage;
+inline constexpr int Object = kind::ObjectPage;
 inline constexpr int BasicTool = 8;
 inline constexpr int DisplayTool = 9;
 inline constexpr int FrameTool = 10;
 inline constexpr int ShadowTool = 11;
-inline constexpr int Text = 12;
+inline constexpr int Text = kind::TextPage;
 } // namespace panel_kind
 
 /// One tool class, as module and host know it.

@@ -15,7 +15,6 @@ class CAddObjectUndoEvent : public CUndoSteps<CAddObjectUndoEvent> {
   private:
     friend CUndoSteps;
     Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
-    CRect Area(CTool& tool, const CCanvas&) const { return SelectionOutlineRect(tool); }
 
     CTool* m_pOwnerTool = nullptr; ///< not owned
     PageSnapshot m_previous;       ///< what the last undo put back

@@ -18,7 +18,6 @@ class CuArrangeUndoEvent : public CUndoSteps<CuArrangeUndoEvent> {
   private:
     friend CUndoSteps;
     Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
-    CRect Area(CTool& tool, const CCanvas&) const { return SelectionOutlineRect(tool); }
 
     CNodeRefList m_saved;
     CTool* m_pOwnerTool = nullptr; ///< not owned

@@ -28,7 +28,6 @@ class CObjectAttributeChangedUndoEvent : public CUndoSteps<CObjectAttributeChang
   private:
     friend CUndoSteps;
     Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
-    CRect Area(CTool&, const CCanvas&) const { return CRect(0, 0, 0, 0); }
     bool Keep(CImgNode* pNode);
 
     CTool* m_pOwnerTool = nullptr; ///< not owned

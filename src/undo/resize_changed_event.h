@@ -32,7 +32,6 @@ class CResizeChangedUndoEvent : public CUndoSteps<CResizeChangedUndoEvent> {
 
     static void Capture(const CCanvas& canvas, SavedList& records);
     Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
-    CRect Area(CTool& tool, const CCanvas&) const { return SelectionOutlineRect(tool); }
 
     SavedList m_saved;
     CTool* m_pOwnerTool = nullptr; ///< not owned

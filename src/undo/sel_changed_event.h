@@ -19,7 +19,6 @@ class CSelChangedUndoEvent : public CUndoSteps<CSelChangedUndoEvent> {
     friend CUndoSteps;
     bool IsReady(CTool& tool, const CCanvas& canvas) const;
     Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
-    CRect Area(CTool&, const CCanvas&) const { return CRect(0, 0, 0, 0); }
 
     CNodeRefList m_saved;
     CTool* m_pOwnerTool = nullptr; ///< not owned

@@ -19,7 +19,9 @@ void FinishRestoring(const UndoRules& rules, CTool& tool, const CCanvas& canvas,
 /// An event of the module. `TEvent` has the fields m_pOwnerTool and m_bUndone and gives
 /// - `Restored Restore(Way, CTool&, const CCanvas&, CRefresh&)`: puts the saved state back and keeps the live
 ///   one; the owner tool may change with it. It adds to the area what it measures itself.
-/// - `CRect Area(CTool&, const CCanvas&)`: what its change touches, where the rules have it measured here.
+/// - `CRect Area(CTool&, const CCanvas&)`: what its change touches, where that is measured here and is not
+/// the
+///   selection with its marks.
 /// - `bool IsReady(CTool&, const CCanvas&)`, where more must be there than the rules say.
 /// It keeps no data, so that a class's fields stand in the order of the contract.
 template <class TEvent>
@@ -48,6 +50,7 @@ class CUndoSteps : public CUndoEvent {
 
   protected:
     bool IsReady(CTool&, const CCanvas&) const { return true; }
+    CRect Area(CTool& tool, const CCanvas&) const { return SelectionOutlineRect(tool); }
 
   private:
     TEvent& Self() { return static_cast<TEvent&>(*this); }

@@ -25,8 +25,11 @@ int records::RecordAttributeUndoForSelection(CTool& tool, UINT nDescriptionId) {
 }
 
 int records::RecordAttributeUndo(CTool& tool, CNodeRefList& nodes, UINT nDescriptionId) {
+    if (!CCanvas(tool).HasDocument()) {
+        return 0;
+    }
     std::unique_ptr<CObjectAttributeChangedUndoEvent> pEvent(new CObjectAttributeChangedUndoEvent);
-    if (!pEvent || !CCanvas(tool).HasDocument()) {
+    if (!pEvent) {
         return 0;
     }
     pEvent->m_fnSaveState(&tool, nodes);
