@@ -8,6 +8,7 @@
 #include "afxdll_.h"
 #include "afxdoc.h"
 #include "afxgdi.h"
+#include "afxmenu.h"
 #include "afxmsg_.h"
 #include "afxrect.h"
 #include "afxwnd.h"

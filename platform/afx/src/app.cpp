@@ -1,6 +1,7 @@
 #include "afxapp.h"
 #include "afxdll_.h"
 #include "afxgdi.h"
+#include "afxmenu.h"
 
 #include "seam.h"
 
@@ -43,6 +44,7 @@ BOOL CWinApp::OnIdle(LONG) {
     CWnd::DeleteTempMap();
     CDC::DeleteTempMap();
     CGdiObject::DeleteTempMap();
+    CMenu::DeleteTempMap();
     return FALSE;
 }
 

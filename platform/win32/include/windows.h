@@ -6,6 +6,7 @@
 #include "win32/edit.h"
 #include "win32/gdi.h"
 #include "win32/kernel.h"
+#include "win32/menu.h"
 #include "win32/rect.h"
 #include "win32/text.h"
 #include "win32/types.h"

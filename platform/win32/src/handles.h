@@ -10,7 +10,7 @@
 
 namespace win32 {
 
-enum class HandleKind : unsigned { Window = 1, DeviceContext, GdiObject, GlobalBlock, Cursor, Module };
+enum class HandleKind : unsigned { Window = 1, DeviceContext, GdiObject, GlobalBlock, Cursor, Module, Menu };
 
 constexpr unsigned SlotBits = 16;
 constexpr unsigned UseBits = 11;

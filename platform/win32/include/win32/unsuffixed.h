@@ -5,11 +5,13 @@
 
 #include "win32/gdi.h"
 #include "win32/kernel.h"
+#include "win32/menu.h"
 #include "win32/text.h"
 #include "win32/window.h"
 
 /// Inlined always, so that the module that calls it is the one beside which the file is looked for.
 [[gnu::always_inline]] inline HMODULE LoadLibrary(LPCSTR name) { return LoadLibraryA(name); }
+inline HMENU LoadMenu(HINSTANCE module, LPCSTR name) { return LoadMenuA(module, name); }
 inline HMODULE GetModuleHandle(LPCSTR name) { return GetModuleHandleA(name); }
 inline DWORD GetModuleFileName(HMODULE module, LPSTR path, DWORD size) {
     return GetModuleFileNameA(module, path, size);
