@@ -54,13 +54,18 @@ struct LayoutRow {
     RecordedEvent (*pfnRead)(const CUndoEvent& event);
 };
 
-constexpr std::array<LayoutRow, 9> Layouts = {{
+constexpr std::array<LayoutRow, 14> Layouts = {{
     {"CSelChangedUndoEvent", Read<COneListEvent>},
     {"CMoveChangedUndoEvent", Read<COneListEvent>},
     {"CResizeChangedUndoEvent", Read<COneListEvent>},
     {"CShadowChangedUndoEvent", Read<COneListEvent>},
     {"CShadowMoveChangedUndoEvent", Read<COneListEvent>},
+    {"CuArrangeUndoEvent", Read<COneListEvent>},
+    {"CuAlignUndoEvent", Read<COneListEvent>},
     {"CAddObjectUndoEvent", Read<COwnerFirstEvent<6>>},
+    {"CDuplicateObjectUndoEvent", Read<COwnerFirstEvent<6>>},
+    {"CuDeleteNodeUndoEvent", Read<COwnerFirstEvent<6>>},
+    {"CuRemoveShadowUndoEvent", Read<COwnerFirstEvent<1>>},
     {"CObjectAttributeChangedUndoEvent", Read<COwnerFirstEvent<2>>},
     {"CuDisplayUndoEvent", Read<CDisplayEvent>},
     {"CTextEditChangedUndoEvent", Read<CTextEditEvent>},

@@ -1,4 +1,5 @@
-#include "entry/module.h"
+// The start and the end of the module.
+#include "ops/resource_module.h"
 
 #include <new>
 
@@ -7,15 +8,12 @@
 namespace {
 
 AFX_EXTENSION_MODULE g_extensionModule = {};
-HINSTANCE g_hInstance = nullptr;
-HMODULE g_hResourceModule = nullptr;
 
 BOOL Attach(HINSTANCE hInstance) {
     if (!AfxInitExtensionModule(g_extensionModule, hInstance)) {
         return FALSE;
     }
-    g_hInstance = hInstance;
-    g_hResourceModule = ::LoadLibraryA("PradixRC.dll");
+    SetResourceModule(::LoadLibraryA("PradixRC.dll"));
     // The record joins the framework's resource chain and belongs to it; a module without one works all the
     // same.
     static_cast<void>(new CDynLinkLibrary(g_extensionModule));
@@ -23,10 +21,6 @@ BOOL Attach(HINSTANCE hInstance) {
 }
 
 } // namespace
-
-HINSTANCE ModuleInstance() { return g_hInstance; }
-
-HMODULE ResourceModule() { return g_hResourceModule; }
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID) {
     if (dwReason == DLL_PROCESS_ATTACH) {

@@ -163,3 +163,39 @@ struct ITextEditEntry {
     /// editor can be made.
     virtual int EditTextNode(CImgNode* pNode, const CPoint* pPoint) = 0;
 };
+
+/// Of the display tools: the display values of the selected objects. Brightness and contrast are -100 to 100,
+/// transparency 0 (opaque) to 100; other values are stored as given and clamped when drawn.
+struct ISelectionDisplay {
+    static constexpr GUID Id = {0x8EBBC540, 0xBC92, 0x4B4A, {0xB7, 0x6D, 0x27, 0x0C, 0x21, 0x53, 0xBC, 0x8A}};
+    /// Gives every selected object these values, as one undo step; -1 keeps an object's own value. 1, or 0
+    /// when nothing is selected.
+    virtual int SetSelectionDisplay(int nBrightness, int nContrast, int nTransparency) = 0;
+};
+
+struct INodeDisplay {
+    static constexpr GUID Id = {0xF1BC04F9, 0xD8BE, 0x43A0, {0x93, 0x55, 0x14, 0x35, 0xD1, 0x2B, 0x4A, 0x16}};
+    /// Gives one node these values, without undo and without a repaint. `pError` may be null; receives 0, 1
+    /// for a null node, 3 when the node does not take them.
+    virtual int SetNodeDisplay(CImgNode* pNode, int nBrightness, int nContrast, int nTransparency,
+                               std::int32_t* pError) = 0;
+};
+
+/// Of the shadow tools: the shadows of the selected objects. Offsets and softness are document units,
+/// transparency is 0 (opaque) to 100. Each of 2 to 7 is one undo step; it answers 1, also when nothing is
+/// selected or nothing changes, and 0 when the undo step cannot be captured.
+struct IShadowSettings {
+    static constexpr GUID Id = {0x8B8FA91B, 0xAB2C, 0x4A9F, {0x80, 0x8E, 0xA0, 0xCA, 0x54, 0xB8, 0x01, 0xF7}};
+    /// The number of selected objects.
+    virtual int GetCount() = 0;
+    /// Gives every selected object a new shadow; one that it has goes first. Softness -1 leaves it without.
+    virtual int ApplyShadow(int nOffsetX, int nOffsetY, const COLORREF* pcrColor, int nSoftness,
+                            int nTransparency) = 0;
+    /// Moves the shadows. `nMask` bit 0 sets x, bit 1 sets y; the other offset stays.
+    virtual int SetOffset(int nMask, int nX, int nY) = 0;
+    virtual int SetColor(const COLORREF* pcrColor) = 0;
+    /// 5.
+    virtual int SetSoftness(int nSoftness) = 0;
+    virtual int SetTransparency(int nTransparency) = 0;
+    virtual int RemoveShadows() = 0;
+};

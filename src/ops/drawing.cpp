@@ -4,16 +4,14 @@ namespace {
 
 constexpr COLORREF OutlineColor = RGB(255, 255, 255);
 constexpr COLORREF HandleColor = RGB(255, 255, 0);
-constexpr COLORREF HandleFrameColor = RGB(0, 0, 0);
+constexpr COLORREF ShapeFrameColor = RGB(0, 0, 0);
+constexpr COLORREF GapColor = RGB(0, 0, 0);
 
 void DrawHandles(CDC& dc, const Corners& corners) {
-    CPen pen;
-    CBrush brush;
-    if (!pen.CreatePen(PS_SOLID, 1, HandleFrameColor) || !brush.CreateSolidBrush(HandleColor)) {
+    const CFilledShapeScope shape(dc, HandleColor);
+    if (!shape) {
         return;
     }
-    CSelectObjectScope framed(dc, pen);
-    CSelectObjectScope filled(dc, brush);
     for (const int nHandle : HandleOrder) {
         const CRect rc = HandleSquare(corners, nHandle);
         dc.Rectangle(rc.left, rc.top, rc.right, rc.bottom);
@@ -54,22 +52,42 @@ void CCachePicture::PutBack() {
     m_view.m_fnUpdateDisplayCache(m_ptOrigin, m_hBitmap);
 }
 
-void DrawDottedOutline(CDC& dc, const Corners& corners, COLORREF crLine) {
-    constexpr COLORREF Black = RGB(0, 0, 0);
-    CPen pen;
-    if (!pen.CreatePen(PS_DOT, 1, crLine)) {
+CDottedPenScope::CDottedPenScope(CDC& dc, COLORREF crLine)
+    : m_dc(dc), m_crOldBackground(dc.SetBkColor(GapColor)) {
+    if (m_pen.CreatePen(PS_DOT, 1, crLine)) {
+        m_selected.emplace(dc, m_pen);
+    }
+}
+
+void CDottedPenScope::Line(CPoint ptFrom, CPoint ptTo) {
+    if (m_selected) {
+        m_dc.MoveTo(ptFrom);
+        m_dc.LineTo(ptTo);
+    }
+}
+
+void CDottedPenScope::Outline(const Corners& corners) {
+    if (!m_selected) {
         return;
     }
-    CSelectObjectScope selected(dc, pen);
-    const COLORREF crOldBackground = dc.SetBkColor(Black);
     const auto at = [&corners](Corner corner) {
         return CPoint(static_cast<int>(corners[corner].x), static_cast<int>(corners[corner].y));
     };
-    dc.MoveTo(at(TopLeft));
+    m_dc.MoveTo(at(TopLeft));
     for (const Corner corner : {TopRight, BottomRight, BottomLeft, TopLeft}) {
-        dc.LineTo(at(corner));
+        m_dc.LineTo(at(corner));
     }
-    dc.SetBkColor(crOldBackground);
+}
+
+void DrawDottedOutline(CDC& dc, const Corners& corners, COLORREF crLine) {
+    CDottedPenScope(dc, crLine).Outline(corners);
+}
+
+CFilledShapeScope::CFilledShapeScope(CDC& dc, COLORREF crFill) {
+    if (m_pen.CreatePen(PS_SOLID, 1, ShapeFrameColor) && m_brush.CreateSolidBrush(crFill)) {
+        m_framed.emplace(dc, m_pen);
+        m_filled.emplace(dc, m_brush);
+    }
 }
 
 void DrawOutlineAndHandles(CDC& dc, const Corners& corners) {

@@ -1,6 +1,8 @@
 // Drawing marks into the view's display cache.
 #pragma once
 
+#include <optional>
+
 #include <afxwin.h>
 
 #include "ops/canvas.h"
@@ -46,9 +48,40 @@ class CCachePicture {
     HGDIOBJ m_hOldBitmap = nullptr;
 };
 
-/// Draws the closed outline through the corners with a dotted pen, one pixel wide, its gaps black. The
-/// background colour and pen are restored.
+/// A dotted pen, one pixel wide, its gaps black. Without the pen nothing is drawn; background colour and pen
+/// are restored with it.
+class [[nodiscard]] CDottedPenScope {
+  public:
+    CDottedPenScope(CDC& dc, COLORREF crLine);
+    ~CDottedPenScope() { m_dc.SetBkColor(m_crOldBackground); }
+    CDottedPenScope(const CDottedPenScope&) = delete;
+    CDottedPenScope& operator=(const CDottedPenScope&) = delete;
+
+    void Line(CPoint ptFrom, CPoint ptTo);
+    /// The closed outline through the corners, their coordinates truncated.
+    void Outline(const Corners& corners);
+
+  private:
+    CDC& m_dc;
+    CPen m_pen;
+    std::optional<CSelectObjectScope> m_selected;
+    COLORREF m_crOldBackground;
+};
+
 void DrawDottedOutline(CDC& dc, const Corners& corners, COLORREF crLine);
+/// A closed figure: framed by a black pen of one pixel, filled with the colour.
+class [[nodiscard]] CFilledShapeScope {
+  public:
+    CFilledShapeScope(CDC& dc, COLORREF crFill);
+    /// False when pen or brush cannot be made.
+    explicit operator bool() const { return m_filled.has_value(); }
+
+  private:
+    CPen m_pen;
+    CBrush m_brush;
+    std::optional<CSelectObjectScope> m_framed;
+    std::optional<CSelectObjectScope> m_filled;
+};
 
 /// Draws the outline of one selected object (white) and its eight handles (yellow, framed black).
 void DrawOutlineAndHandles(CDC& dc, const Corners& corners);

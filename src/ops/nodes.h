@@ -67,3 +67,12 @@ inline void TakeOut(CImgNodeList& nodes, const CImgNode* pNode) {
         nodes.RemoveAt(place);
     }
 }
+
+/// The page's top-level objects in the list.
+inline INT_PTR CountObjects(const CImgNodeList& nodes) {
+    INT_PTR nObjects = 0;
+    for (const CImgNode* pNode : Each(nodes)) {
+        nObjects += pNode->m_pOwner ? 0 : 1;
+    }
+    return nObjects;
+}

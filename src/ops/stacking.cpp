@@ -47,6 +47,25 @@ class CStackingScope {
     CNodeRefList m_sorted;
 };
 
+// Whether the first objects in the order of `range`, as many as are selected, are the selected ones.
+template <class TRange>
+int StartsWithSelection(const CCanvas& canvas, TRange range) {
+    INT_PTR nLeft = canvas.Selection().GetCount();
+    for (CImgNode* pNode : range) {
+        if (nLeft == 0) {
+            break;
+        }
+        if (pNode->IsShadowNode() || pNode->IsFrameNode()) {
+            continue;
+        }
+        if (!canvas.IsSelected(pNode)) {
+            return 0;
+        }
+        --nLeft;
+    }
+    return nLeft == 0 ? 1 : 0;
+}
+
 void PutAtHead(CImgNodeList& objects, CImgNode& object) {
     TakeGroupOut(objects, object);
     AddGroupAtHead(objects, object);
@@ -122,4 +141,14 @@ void stacking::SendToBack(CTool& tool) {
     for (CImgNode* pObject : Each(stack.Sorted())) {
         PutAtTail(stack.Objects(), *pObject);
     }
+}
+
+int stacking::IsSelectionAtFront(CTool& tool) {
+    const CCanvas canvas(tool);
+    return canvas.HasDocument() ? StartsWithSelection(canvas, Each(canvas.Objects())) : 0;
+}
+
+int stacking::IsSelectionAtBack(CTool& tool) {
+    const CCanvas canvas(tool);
+    return canvas.HasDocument() ? StartsWithSelection(canvas, Backwards(canvas.Objects())) : 0;
 }

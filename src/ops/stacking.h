@@ -11,4 +11,8 @@ void SendToBack(CTool& tool);
 /// The selected objects, front-most first. Companions in the selection are left out: they go where their
 /// object goes.
 void SortByStacking(CTool& tool, CNodeRefList& nodes);
+/// 1 when the selected objects are exactly the front-most of the page, or the rearmost, companions not
+/// counted; else 0.
+int IsSelectionAtFront(CTool& tool);
+int IsSelectionAtBack(CTool& tool);
 } // namespace stacking

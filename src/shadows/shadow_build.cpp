@@ -75,16 +75,6 @@ class CHardMask {
     bool m_bOwned = false;
 };
 
-// Where a shadow without offset stands: the object's corner, or the outer corner of object and frame.
-CPoint BasePoint(const CImgNode& node) {
-    CPoint ptBase(node.m_tx.nX, node.m_tx.nY);
-    if (node.m_pFrameNode) {
-        ptBase.x = std::min<int>(ptBase.x, node.m_pFrameNode->m_tx.nX);
-        ptBase.y = std::min<int>(ptBase.y, node.m_pFrameNode->m_tx.nY);
-    }
-    return ptBase;
-}
-
 // Also places the block at the shadow's position; 0 when no mask can be made.
 HBUF32 SoftMaskOf(CImgNode& node, int nSoftness, CTxParam& block, CSize offset, CPoint& ptShadow) {
     CHardMask mask(node);
@@ -92,7 +82,7 @@ HBUF32 SoftMaskOf(CImgNode& node, int nSoftness, CTxParam& block, CSize offset, 
         return 0;
     }
     mask.Scale(node.m_tx);
-    return MakeSoftMask(mask.Get(), nSoftness, block, offset, BasePoint(node), ptShadow);
+    return MakeSoftMask(mask.Get(), nSoftness, block, offset, ShadowBase(node), ptShadow);
 }
 
 // Where the node's bounds start when its position is at the point.
@@ -156,6 +146,15 @@ CImgNode* MakeShadowNode(const CCanvas& canvas, CImgNode& object, const CTxParam
 }
 
 } // namespace
+
+CPoint ShadowBase(const CImgNode& object) {
+    CPoint ptBase(object.m_tx.nX, object.m_tx.nY);
+    if (object.m_pFrameNode) {
+        ptBase.x = std::min<int>(ptBase.x, object.m_pFrameNode->m_tx.nX);
+        ptBase.y = std::min<int>(ptBase.y, object.m_pFrameNode->m_tx.nY);
+    }
+    return ptBase;
+}
 
 HBUF32 MakeSoftMask(HBUF32 hMask, int nSoftness, CTxParam& block, CSize offset, CPoint ptBase,
                     CPoint& ptShadow) {

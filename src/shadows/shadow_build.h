@@ -19,6 +19,10 @@ int RegenerateShadow(CTool& tool, CImgNode* pNode);
 /// The same, and shows it when `nRedraw` is 1. 1, or 0 for an object without a shadow.
 int RefreshNodeShadow(CTool& tool, CImgNode* pNode, int nRedraw);
 
+/// Where a shadow without offset stands (document units): the object's position, or the smaller x and the
+/// smaller y of object and frame.
+CPoint ShadowBase(const CImgNode& object);
+
 /// The soft mask of a hard one, owned by the caller, or 0; a softness of -1 makes none. The block comes back
 /// at the shadow's position (also in `ptShadow`), the base point moved by the offset, in every case.
 HBUF32 MakeSoftMask(HBUF32 hMask, int nSoftness, CTxParam& block, CSize offset, CPoint ptBase,

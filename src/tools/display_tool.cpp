@@ -1,9 +1,16 @@
 #include "tools/display_tool.h"
 
-#include "host/panels.h"
-#include "ops/current_tool.h"
+#include "ops/commands/display.h"
+#include "ops/commands/text_page.h"
 #include "ops/hit_test.h"
 #include "tools/identity.h"
+
+int CDisplayTool::QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) {
+    if (AnswerInterface<ISelectionDisplay, INodeDisplay>(this, iid, ppInterface, pExtra)) {
+        return 1;
+    }
+    return CObjectTool::QueryInterface(iid, ppInterface, pExtra);
+}
 
 int CDisplayTool::OnLButtonDown(UINT nFlags, CPoint point) {
     CObjectTool::OnLButtonDown(nFlags, point);
@@ -17,34 +24,23 @@ int CDisplayTool::OnLButtonUp(UINT nFlags, CPoint point) {
 
 int CDisplayTool::GetPanelKind() { return IdentityOf(*this).nPanelKind; }
 
+int CDisplayTool::SetSelectionDisplay(int nBrightness, int nContrast, int nTransparency) {
+    return display::SetSelectionDisplay(*this, {nBrightness, nContrast, nTransparency});
+}
+
+int CDisplayTool::SetNodeDisplay(CImgNode* pNode, int nBrightness, int nContrast, int nTransparency,
+                                 std::int32_t* pError) {
+    return display::SetNodeDisplay(pNode, {nBrightness, nContrast, nTransparency}, pError);
+}
+
 int CTextDisplayTool::OnLButtonDown(UINT nFlags, CPoint point) {
     m_bSelectedAtPress = CCanvas(*this).HasSelection();
     return CDisplayTool::OnLButtonDown(nFlags, point);
 }
 
-// 1, or 0 when the host has no text page.
-int CTextDisplayTool::ShowTextPage() {
-    auto* pPanel = bus::FindService<ITextAttributePanel>(*this, kind::TextPage);
-    if (pPanel) {
-        pPanel->SelectPage(0);
-    }
-    return pPanel ? 1 : 0;
-}
-
-// The input of the current tool when that is another one; null when it is this, or lacks it.
-IToolInput* CTextDisplayTool::OtherToolInput() {
-    CListenerObject* const pTool = CurrentTool(*this);
-    return pTool != this ? bus::Query<IToolInput>(pTool) : nullptr;
-}
-
 int CTextDisplayTool::OnLButtonDblClk(UINT nFlags, CPoint point) {
-    if (!IsCtrlDown()) {
-        ShowTextPage();
-    }
-    if (IToolInput* pInput = OtherToolInput()) {
-        return pInput->OnLButtonDblClk(nFlags, point);
-    }
-    return CDisplayTool::OnLButtonDblClk(nFlags, point);
+    const std::optional<int> answer = text_page::HandOverDblClick(*this, nFlags, point);
+    return answer ? *answer : CDisplayTool::OnLButtonDblClk(nFlags, point);
 }
 
 bool CTextDisplayTool::IsClickOnNothing(CPoint point) {
@@ -52,7 +48,8 @@ bool CTextDisplayTool::IsClickOnNothing(CPoint point) {
 }
 
 int CTextDisplayTool::OnLButtonUp(UINT nFlags, CPoint point) {
-    IToolInput* const pInput = IsClickOnNothing(point) && ShowTextPage() ? OtherToolInput() : nullptr;
+    IToolInput* const pInput =
+        IsClickOnNothing(point) && text_page::Show(*this) ? text_page::OtherToolInput(*this) : nullptr;
     if (!pInput) {
         return CDisplayTool::OnLButtonUp(nFlags, point);
     }

@@ -4,8 +4,9 @@
 #include "tools/object_tool.h"
 
 /// Kind 15.
-class CDisplayTool : public CObjectTool {
+class CDisplayTool : public CObjectTool, public ISelectionDisplay, public INodeDisplay {
   public:
+    int QueryInterface(const GUID& iid, void** ppInterface, int* pExtra) override;
     const GUID& GetToolClassId() override { return tool_class::Display; }
 
     /// Presses and releases are always taken.
@@ -14,6 +15,10 @@ class CDisplayTool : public CObjectTool {
 
     /// 52. The bus kind of the host page that the tool pairs with.
     virtual int GetPanelKind();
+
+    int SetSelectionDisplay(int nBrightness, int nContrast, int nTransparency) override;
+    int SetNodeDisplay(CImgNode* pNode, int nBrightness, int nContrast, int nTransparency,
+                       std::int32_t* pError) override;
 };
 
 /// Kind 19: of the object page.
@@ -33,8 +38,6 @@ class CTextDisplayTool : public CDisplayTool {
 
   private:
     bool IsClickOnNothing(CPoint point);
-    int ShowTextPage();
-    IToolInput* OtherToolInput();
 
     bool m_bSelectedAtPress = false;
 };

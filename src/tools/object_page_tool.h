@@ -7,4 +7,7 @@
 class CObjectPageTool : public CBasicObjectTool {
   public:
     const GUID& GetToolClassId() override { return tool_class::ObjectPage; }
+
+    /// A press that leaves this the current tool tells the object page of it.
+    int OnLButtonDown(UINT nFlags, CPoint point) override;
 };

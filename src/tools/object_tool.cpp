@@ -46,9 +46,10 @@ int CObjectTool::DrawSelectionMark(CDC* pDC, CPoint* pOrigin, CImgNode* pNode) {
     return 1;
 }
 
+// Round its own mark alone: what a derived tool marks beyond it, that tool removes.
 int CObjectTool::InvalidateSelectionMark(CImgNode* pNode) {
     CRect rcMark;
-    if (!pNode || !GetNodeMarkRect(pNode, &rcMark)) {
+    if (!pNode || !CObjectTool::GetNodeMarkRect(pNode, &rcMark)) {
         return 0;
     }
     return InvalidateStrips(*this, rcMark, MarkStripWidth);

@@ -4,6 +4,7 @@
 #include "ops/base_image.h"
 #include "ops/bus.h"
 #include "ops/commands/click.h"
+#include "ops/commands/context_menu.h"
 #include "ops/commands/keys.h"
 #include "ops/commands/objects.h"
 #include "ops/commands/panels.h"
@@ -107,7 +108,7 @@ void CToolCore::m_fnDelete() { commands::Delete(*this); }
 void CToolCore::Empty30() {}
 void CToolCore::Empty31() {}
 void CToolCore::m_fnRemoveFrame() {}
-void CToolCore::m_fnRemoveShadow() {}
+void CToolCore::m_fnRemoveShadow() { commands::RemoveShadows(*this); }
 void CToolCore::m_fnEditTextAt(CPoint point) { commands::EditTextAt(*this, point); }
 void CToolCore::m_fnRemoveTextEffect(CPoint point) { commands::RemoveTextEffect(*this, point); }
 void CToolCore::m_fnAlignLeft() { align::Left(*this); }
@@ -235,7 +236,7 @@ int CToolCore::OnLButtonDblClk(UINT nFlags, CPoint point) { return OnLButtonDown
 int CToolCore::OnLButtonDown(UINT nFlags, CPoint point) { return click::OnLButtonDown(*this, nFlags, point); }
 int CToolCore::OnLButtonUp(UINT nFlags, CPoint point) { return click::OnLButtonUp(*this, nFlags, point); }
 int CToolCore::OnMouseMove(UINT, CPoint point) { return OnSetCursor(&point), 0; }
-int CToolCore::OnRButtonDown(UINT, CPoint) { return 0; }
+int CToolCore::OnRButtonDown(UINT, CPoint point) { return context_menu::OnRButtonDown(*this, point); }
 int CToolCore::Reserved6(UINT, CPoint) { return 0; }
 int CToolCore::Reserved7(UINT, CPoint) { return 0; }
 int CToolCore::OnKeyDown(UINT nChar, UINT, UINT) { return keys::OnKeyDown(*this, nChar); }
@@ -274,6 +275,14 @@ CImgNode* CToolCore::m_fnPickReference(const CNodeRefList& nodes, int nRule) {
 }
 void CToolCore::m_fnCopySelection(CNodeRefList& nodes) { selection::CopySelection(*this, nodes); }
 void CToolCore::m_fnSortByStacking(CNodeRefList& nodes) { stacking::SortByStacking(*this, nodes); }
+int CToolCore::m_fnIsSelectionAtFront() { return stacking::IsSelectionAtFront(*this); }
+int CToolCore::m_fnIsSelectionAtBack() { return stacking::IsSelectionAtBack(*this); }
+void CToolCore::m_fnPrepareContextSelection(CPoint point) {
+    context_menu::PrepareContextSelection(*this, point);
+}
+void CToolCore::m_fnEnableContextMenu(CMenu& menu, CPoint point) {
+    context_menu::EnableContextMenu(*this, menu, point);
+}
 void CToolCore::m_fnKeepExcludedNodeInFront() { KeepExcludedNodeInFront(*this); }
 int CToolCore::m_fnCreateShadow(CImgNode* pNode, int nOffsetX, int nOffsetY, const COLORREF* pcrColor,
                                 int nSoftness, int nTransparency) {

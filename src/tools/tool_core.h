@@ -124,6 +124,10 @@ class CToolCore : public CToolListener {
     CImgNode* m_fnPickReference(const CNodeRefList& nodes, int nRule);
     void m_fnCopySelection(CNodeRefList& nodes);
     void m_fnSortByStacking(CNodeRefList& nodes);
+    int m_fnIsSelectionAtFront();
+    int m_fnIsSelectionAtBack();
+    void m_fnPrepareContextSelection(CPoint point);
+    void m_fnEnableContextMenu(CMenu& menu, CPoint point);
     void m_fnKeepExcludedNodeInFront();
     int m_fnCreateShadow(CImgNode* pNode, int nOffsetX, int nOffsetY, const COLORREF* pcrColor, int nSoftness,
                          int nTransparency);

@@ -3,28 +3,14 @@
 IMPLEMENT_DYNCREATE(CAddObjectUndoEvent, CUndoEvent)
 
 void CAddObjectUndoEvent::m_fnSaveState(CTool* pTool) {
-    if (!pTool) {
-        return;
+    if (pTool) {
+        m_pOwnerTool = pTool;
+        m_pages.Capture(*pTool);
+        SetAccumulate(FALSE);
     }
-    m_pOwnerTool = pTool;
-    const CCanvas canvas(*pTool);
-    if (canvas.HasDocument()) {
-        CapturePage(*pTool, canvas, m_restore);
-        CapturePage(*pTool, canvas, m_previous);
-    } else {
-        CopyPage(PageSnapshot(), m_restore);
-        CopyPage(PageSnapshot(), m_previous);
-    }
-    SetAccumulate(FALSE);
 }
 
 Restored CAddObjectUndoEvent::Restore(Way, CTool& tool, const CCanvas& canvas, CRefresh& area) {
-    PageSnapshot live;
-    CapturePage(tool, canvas, live);
-    area.Add(Area(tool, canvas));
-    WriteBackPage(tool, canvas, m_restore);
-    CopyPage(m_restore, m_previous);
-    CopyPage(live, m_restore);
-    area.Add(Area(tool, canvas));
+    m_pages.Exchange(tool, canvas, area);
     return Restored::Done;
 }

@@ -17,7 +17,6 @@ class CAddObjectUndoEvent : public CUndoSteps<CAddObjectUndoEvent> {
     Restored Restore(Way way, CTool& tool, const CCanvas& canvas, CRefresh& area);
 
     CTool* m_pOwnerTool = nullptr; ///< not owned
-    PageSnapshot m_previous;       ///< what the last undo put back
-    PageSnapshot m_restore;        ///< what the next undo puts back
+    PageSwap m_pages;
     BOOL m_bUndone = FALSE;
 };

@@ -1,17 +1,10 @@
 #include "undo/display_event.h"
 
+#include "ops/display_values.h"
 #include "ops/nodes.h"
 #include "undo/records.h"
 
 IMPLEMENT_DYNCREATE(CuDisplayUndoEvent, CUndoEvent)
-
-namespace {
-
-constexpr int KeepValue = -1; ///< asks for the value that the node has
-
-int Wanted(int nNew, int nLive) { return nNew == KeepValue ? nLive : nNew; }
-
-} // namespace
 
 CuDisplayUndoEvent::CuDisplayUndoEvent(CTool* pTool, const CNodeRefList& nodes, int nBrightness,
                                        int nContrast, int nTransparency)
@@ -39,9 +32,7 @@ Restored CuDisplayUndoEvent::Restore(Way way, CTool&, const CCanvas&, CRefresh&)
 }
 
 void CuDisplayUndoEvent::ApplyNewValues(CImgNode& node) const {
-    node.m_fnUpdateBCAndT(Wanted(m_nNewBrightness, node.m_nBrightness),
-                          Wanted(m_nNewContrast, node.m_nContrast),
-                          Wanted(m_nNewTransparency, node.m_nTransparency));
+    SetDisplayValues(node, RequestedValues({m_nNewBrightness, m_nNewContrast, m_nNewTransparency}, node));
 }
 
 void CuDisplayUndoEvent::Free() { FreeRecords(m_records); }

@@ -6,6 +6,7 @@
 #include "ops/canvas.h"
 #include "ops/groups.h"
 #include "ops/nodes.h"
+#include "ops/refresh.h"
 
 namespace {
 
@@ -58,6 +59,27 @@ void WriteBackPage(CTool& tool, const CCanvas& canvas, const PageSnapshot& page)
         canvas.Selection().AddTail(pNode);
     }
     WriteBackValues(tool, page.values);
+}
+
+void PageSwap::Capture(CTool& tool) {
+    const CCanvas canvas(tool);
+    if (canvas.HasDocument()) {
+        CapturePage(tool, canvas, restore);
+        CapturePage(tool, canvas, previous);
+    } else {
+        CopyPage(PageSnapshot(), restore);
+        CopyPage(PageSnapshot(), previous);
+    }
+}
+
+void PageSwap::Exchange(CTool& tool, const CCanvas& canvas, CRefresh& area) {
+    PageSnapshot live;
+    CapturePage(tool, canvas, live);
+    area.Add(SelectionOutlineRect(tool));
+    WriteBackPage(tool, canvas, restore);
+    CopyPage(restore, previous);
+    CopyPage(live, restore);
+    area.Add(SelectionOutlineRect(tool));
 }
 
 void CaptureObjects(const CCanvas& canvas, CNodeRefList& objects) {

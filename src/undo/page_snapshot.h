@@ -6,6 +6,7 @@
 #include "host/tool.h"
 
 class CCanvas;
+class CRefresh;
 
 /// The page's top-level objects from front to back and the value that the host keeps for each, and its
 /// selection in the order of selection. Nodes are not owned. Companions are not kept: whatever rebuilds them
@@ -22,6 +23,18 @@ void CopyPage(const PageSnapshot& from, PageSnapshot& to);
 /// Puts objects and selection back, each object with the companions that it has now, and fills the host's
 /// table again.
 void WriteBackPage(CTool& tool, const CCanvas& canvas, const PageSnapshot& page);
+
+/// Two snapshots that change places at each step: what the next step puts back, and what the last one did.
+struct PageSwap {
+    PageSnapshot previous;
+    PageSnapshot restore;
+
+    /// Replaces both by the tool's page as it is; without a document they are empty.
+    void Capture(CTool& tool);
+    /// Puts the saved page back and keeps the live one. Adds the selection's outline before and after to the
+    /// area.
+    void Exchange(CTool& tool, const CCanvas& canvas, CRefresh& area);
+};
 
 /// The two halves that concern the order alone.
 void CaptureObjects(const CCanvas& canvas, CNodeRefList& objects);

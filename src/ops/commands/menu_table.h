@@ -28,10 +28,12 @@ enum class MenuRule {
     NotAtBack,
     NotTwo, ///< more or fewer than two objects are selected
     // Enabled or greyed as it holds or not.
-    OneSort, ///< the selection is of objects other than texts
+    OtherObjects, ///< the selection is of objects other than texts
     // Never touched.
     Start,
 };
+
+inline constexpr std::size_t MenuRuleCount = static_cast<std::size_t>(MenuRule::Start) + 1;
 
 constexpr bool StartsGreyed(MenuRule rule) { return rule < MenuRule::NotInFront; }
 
@@ -80,9 +82,9 @@ inline constexpr std::array<MenuRow, 27> MenuTable = {{
     {122, "Centers", MenuRule::Start, &menu_run::Plain<&CTool::m_fnAlignCenters>},
     {123, "Distribute Vertically", MenuRule::NotTwo, &menu_run::Plain<&CTool::m_fnDistributeVertically>},
     {124, "Distribute Horizontally", MenuRule::NotTwo, &menu_run::Plain<&CTool::m_fnDistributeHorizontally>},
-    {125, "Same Width", MenuRule::OneSort, &menu_run::Plain<&CTool::m_fnSameWidth>},
-    {126, "Same Height", MenuRule::OneSort, &menu_run::Plain<&CTool::m_fnSameHeight>},
-    {127, "Same Size", MenuRule::OneSort, &menu_run::Plain<&CTool::m_fnSameSize>},
+    {125, "Same Width", MenuRule::OtherObjects, &menu_run::Plain<&CTool::m_fnSameWidth>},
+    {126, "Same Height", MenuRule::OtherObjects, &menu_run::Plain<&CTool::m_fnSameHeight>},
+    {127, "Same Size", MenuRule::OtherObjects, &menu_run::Plain<&CTool::m_fnSameSize>},
     {128, nullptr, MenuRule::Start, &menu_run::AtPoint<&CTool::Reserved48>},
     {129, nullptr, MenuRule::Start, &menu_run::AtPoint<&CTool::Reserved49>},
 }};

@@ -1,23 +1,20 @@
 #include "ops/commands/objects.h"
 
-#include "host/object_clipboard.h"
 #include "host/panels.h"
 #include "ops/canvas.h"
 #include "ops/current_tool.h"
 #include "ops/groups.h"
 #include "ops/hit_test.h"
 #include "ops/nodes.h"
+#include "ops/object_clipboard.h"
 #include "ops/objects/offset.h"
 #include "ops/refresh.h"
 #include "ops/selection.h"
+#include "shadows/shadow_build.h"
 #include "text/object/text_build.h"
 #include "text/object/text_place.h"
 
 namespace {
-
-IObjectClipboard* FindClipboard(CTool& tool) {
-    return bus::Query<IObjectClipboard>(bus::FindObject(tool, EditCategoryId, edit_kind::ObjectClipboard));
-}
 
 // False when a step fails: what was done up to there stays.
 bool RemoveEffect(CTool& tool, CTextNode& text, CRefresh& area) {
@@ -79,6 +76,21 @@ void commands::Delete(CTool& tool) {
         pArea->OnObjectsChanged(1);
         NotifyChangedThenRedrawn(tool);
     }
+}
+
+void commands::RemoveShadows(CTool& tool) {
+    const CCanvas canvas(tool);
+    if (!canvas) {
+        return;
+    }
+    CTouchedArea area(tool);
+    CNodeRefList nodes;
+    CopyList(canvas.Selection(), nodes);
+    for (CImgNode* pNode : Each(nodes)) {
+        RemoveShadow(tool, pNode);
+    }
+    area.After().FlushMarkRepaint(canvas, tool);
+    NotifyChangedThenRedrawn(tool);
 }
 
 void commands::EditTextAt(CTool& tool, CPoint point) {

@@ -52,15 +52,3 @@ void CopyEffect(CTextNode& node, const CTextNode& other) {
     node.m_fnRegenerateTextEffect();
     KeepWidth(node, before);
 }
-
-DisplayValues DisplayValuesOf(const CImgNode& node) {
-    return {node.m_nBrightness, node.m_nContrast, node.m_nTransparency};
-}
-
-bool SetDisplayValues(CImgNode& node, const DisplayValues& values) {
-    return node.m_fnUpdateBCAndT(values.nBrightness, values.nContrast, values.nTransparency) != 0;
-}
-
-bool CopyDisplayValues(CImgNode& node, const CImgNode& other) {
-    return SetDisplayValues(node, DisplayValuesOf(other));
-}

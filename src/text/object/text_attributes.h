@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 #include "host/text_node.h"
+#include "ops/display_values.h"
 #include "text/editor/text_style.h"
 
 /// Size in pixels at full view scale, alignment an index, style the bits of text_style.
@@ -46,13 +47,3 @@ void MoveCornerTo(CImgNode& node, CPoint ptCorner);
 void KeepWidth(CImgNode& node, CSize before);
 /// Takes over the other's effect and draws it; the width stays what it was.
 void CopyEffect(CTextNode& node, const CTextNode& other);
-/// Brightness, contrast and transparency.
-struct DisplayValues {
-    int nBrightness;
-    int nContrast;
-    int nTransparency;
-};
-DisplayValues DisplayValuesOf(const CImgNode& node);
-/// False when the node does not take them.
-bool SetDisplayValues(CImgNode& node, const DisplayValues& values);
-bool CopyDisplayValues(CImgNode& node, const CImgNode& other);
