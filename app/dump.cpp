@@ -7,6 +7,7 @@
 #include "desk/recorded_event.h"
 #include "desk/tool_catalog.h"
 #include "dump_editor.h"
+#include "dump_menu.h"
 #include "dump_nodes.h"
 #include "dump_trace.h"
 #include "image/node_host.h"
@@ -149,7 +150,7 @@ constexpr std::array<DumpRow, 14> Dumps = {{
     {"editor", [](CStage& stage, Records) { return EditorJson(stage); }},
     {"clipboard", [](CStage& stage, Records) { return ClipboardJson(stage); }},
     {"tool", [](CStage& stage, Records) { return ToolJson(stage); }},
-    {"menu", [](CStage&, Records) { return Json(nullptr); }},
+    {"menu", [](CStage& stage, Records) { return MenuJson(stage); }},
     {"nodes", [](CStage& stage, Records) { return NodesJson(stage); }},
     {"resources", [](CStage& stage, Records) { return ResourcesJson(stage); }},
 }};

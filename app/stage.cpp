@@ -86,7 +86,11 @@ void JoinPlaceholder(CImgNode& object, CImgNode& frame, const CRect& rect) {
 
 } // namespace
 
-CStage::CStage() : m_names(m_desk), m_pEditorHost(std::make_unique<CEditorHost>(m_desk)) {
+CStage::CStage()
+    : m_names(m_desk), m_pEditorHost(std::make_unique<CEditorHost>(m_desk)), m_menuHand([this](CPoint point) {
+          QueuePress(point);
+          QueueRelease(point);
+      }) {
     ResetSurroundings();
     if (!m_desk.CreateView(nullptr) || !NewPage(StartWidth, StartHeight)) {
         throw std::bad_alloc();

@@ -10,6 +10,7 @@
 #include "desk/desk.h"
 #include "host/tool_interfaces.h"
 #include "host/undo.h"
+#include "menu_hand.h"
 #include "names.h"
 #include "platform/clock.h"
 #include "text/text_effect.h"
@@ -131,7 +132,10 @@ class CStage {
     void Press(CPoint point, Ctrl ctrl = Ctrl::Up);
     void Move(CPoint point, Ctrl ctrl = Ctrl::Up);
     void Release(CPoint point, Ctrl ctrl = Ctrl::Up);
-    void RightPress(CPoint point);
+    /// One WM_RBUTTONDOWN, and what the person does with the menu, if one opens.
+    void RightPress(CPoint point, const MenuChoice& choice = {});
+    /// The last context menu; none before the first.
+    const std::optional<platform::PopupMenu>& LastMenu() const { return m_menuHand.Last(); }
     /// One WM_LBUTTONDBLCLK.
     void SecondPress(CPoint point, Ctrl ctrl = Ctrl::Up);
     void Click(CPoint point, Ctrl ctrl = Ctrl::Up);
@@ -277,6 +281,7 @@ class CStage {
     void Deliver(MSG msg);
     void Dispatch(HWND hWnd, UINT nMessage, WPARAM wParam, LPARAM lParam);
     void DispatchAll(UINT nMessage);
+    void DeliverQueuedClick();
     void SendMouse(UINT nMessage, CPoint point);
     void PostMouse(UINT nMessage, CPoint point);
     void SendKeyDown(int nKey);
@@ -292,6 +297,7 @@ class CStage {
     CDesk m_desk;
     CNames m_names;
     std::unique_ptr<CEditorHost> m_pEditorHost;
+    CMenuHand m_menuHand;
     HWND m_hHovered = nullptr; ///< the window that a text from outside is over
     std::vector<Accelerator> m_accelerators;
     std::vector<trace::Row> m_traceRows;

@@ -112,7 +112,23 @@ void CStage::Release(CPoint point, Ctrl ctrl) {
     SendMouse(WM_LBUTTONUP, point);
 }
 
-void CStage::RightPress(CPoint point) { SendMouse(WM_RBUTTONDOWN, point); }
+void CStage::RightPress(CPoint point, const MenuChoice& choice) {
+    m_menuHand.Intend(choice);
+    SendMouse(WM_RBUTTONDOWN, point);
+    if (m_menuHand.Forget() && choice.dismissPress) {
+        DeliverQueuedClick();
+    }
+}
+
+// The press, unless it was swallowed, and the release of what dismissed a menu.
+void CStage::DeliverQueuedClick() {
+    MSG msg;
+    for (const UINT nMessage : {WM_LBUTTONDOWN, WM_LBUTTONUP}) {
+        if (::PeekMessageA(&msg, nullptr, nMessage, nMessage, PM_REMOVE)) {
+            Deliver(msg);
+        }
+    }
+}
 
 void CStage::SecondPress(CPoint point, Ctrl ctrl) {
     CCtrlScope held(ctrl);

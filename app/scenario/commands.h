@@ -28,6 +28,7 @@ std::span<const CommandRow> StageCommands();
 std::span<const CommandRow> PanelCommands();
 std::span<const CommandRow> InputCommands();
 std::span<const CommandRow> ToolCommands();
+std::span<const CommandRow> SettingsCommands();
 std::span<const CommandRow> TextCommands();
 std::span<const CommandRow> EditorCommands();
 std::span<const CommandRow> ExchangeCommands();

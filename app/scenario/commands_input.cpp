@@ -66,12 +66,14 @@ void Pump(CRunner& run, CArguments& args) {
 
 void RClick(CRunner& run, CArguments& args) {
     const CPoint point = args.ClientPoint("X Y");
-    if (args.NextIs(TokenKind::Number) || args.NextIsWord("dismiss-at")) {
-        throw CNotBuilt("rclick");
+    MenuChoice choice;
+    if (args.NextIs(TokenKind::Number)) {
+        choice.id = args.IntIn("ID", 1, 65535);
+    } else if (args.OneOf("ID, dismiss or dismiss-at", {"dismiss", "dismiss-at"}) == 1) {
+        choice.dismissPress = args.ClientPoint("X2 Y2");
     }
-    args.OneOf("ID, dismiss or dismiss-at", {"dismiss"});
     args.End();
-    run.Stage().RightPress(point);
+    run.Stage().RightPress(point, choice);
 }
 
 using KeyAction = void (CStage::*)(int, Ctrl);

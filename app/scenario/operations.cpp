@@ -87,6 +87,14 @@ void RectOfNode(CRunner& run, CArguments& args, IToolObjectOps& ops) {
     SayRect(run, pAnswer == &rect ? 1 : 0, rect);
 }
 
+void OnToolActivate(CRunner& run, CArguments& args, IToolObjectOps& ops) {
+    CListenerObject* pOther = args.TakeWord("none") ? nullptr : run.ToolNamed(args);
+    const int nActivate = args.Int("ACTIVATE");
+    const int nRedraw = args.Int("REDRAW");
+    args.End();
+    run.Say(ops.OnToolActivate(pOther, nActivate, nRedraw));
+}
+
 void SetSelection(CRunner& run, CArguments& args, IToolObjectOps& ops) {
     CNodeRefList nodes;
     run.Nodes(args, "LIST", nodes);
@@ -141,7 +149,7 @@ void RecordAttributeUndo(CRunner& run, CArguments& args, IToolObjectOps& ops) {
 }
 
 constexpr std::array<OperationRow<OpsHandler>, 38> Ops = {{
-    {1, "OnToolActivate", nullptr},
+    {1, "OnToolActivate", OnToolActivate},
     {2, "ClearSelection", Plain<&IToolObjectOps::ClearSelection>},
     {3, "DeselectAll", OneNumber<&IToolObjectOps::DeselectAll>},
     {4, "AddToSelection", List<&IToolObjectOps::AddToSelection>},
@@ -191,6 +199,14 @@ template <void (CTool::*pfnOp)()>
 void MainCommand(CRunner& run, CArguments& args, CTool& tool) {
     args.End();
     (tool.*pfnOp)();
+    SayNothing(run);
+}
+
+template <void (CTool::*pfnOp)(CPoint)>
+void MainAtPoint(CRunner& run, CArguments& args, CTool& tool) {
+    const CPoint point = args.Point("X Y");
+    args.End();
+    (tool.*pfnOp)(point);
     SayNothing(run);
 }
 
@@ -271,9 +287,9 @@ constexpr std::array<OperationRow<MainHandler>, 48> Main = {{
     {13, "GetNodeRect", MainRectOfNode<&CTool::GetNodeRect>},
     {14, "GetNodeOutlineRect", MainRectOfNode<&CTool::GetNodeOutlineRect>},
     {15, "DrawSelectionMark", MainDraw<&CTool::DrawSelectionMark>},
-    {16, "Reserved16", nullptr},
+    {16, "DrawShadowMark", MainDraw<&CTool::DrawShadowMark>},
     {17, "DrawMarkRect", MainDraw<&CTool::DrawMarkRect>},
-    {18, "Reserved18", nullptr},
+    {18, "Reserved18", MainDraw<&CTool::Reserved18>},
     {19, "InvalidateSelectionMark", MainNode<&CTool::InvalidateSelectionMark>},
     {20, "InvalidateMarkRect", MainNode<&CTool::InvalidateMarkRect>},
     {21, "HitTestSelected", MainHit<&CTool::HitTestSelected>},
@@ -288,7 +304,7 @@ constexpr std::array<OperationRow<MainHandler>, 48> Main = {{
     {30, "Empty30", MainCommand<&CTool::Empty30>},
     {31, "Empty31", MainCommand<&CTool::Empty31>},
     {32, "m_fnRemoveFrame", nullptr},
-    {33, "m_fnRemoveShadow", nullptr},
+    {33, "m_fnRemoveShadow", MainCommand<&CTool::m_fnRemoveShadow>},
     {34, "m_fnEditTextAt", text_operations::EditTextAt},
     {35, "m_fnRemoveTextEffect", text_operations::RemoveTextEffect},
     {36, "m_fnAlignLeft", MainCommand<&CTool::m_fnAlignLeft>},
@@ -303,8 +319,8 @@ constexpr std::array<OperationRow<MainHandler>, 48> Main = {{
     {45, "m_fnSameWidth", MainCommand<&CTool::m_fnSameWidth>},
     {46, "m_fnSameHeight", MainCommand<&CTool::m_fnSameHeight>},
     {47, "m_fnSameSize", MainCommand<&CTool::m_fnSameSize>},
-    {48, "Reserved48", nullptr},
-    {49, "Reserved49", nullptr},
+    {48, "Reserved48", MainAtPoint<&CTool::Reserved48>},
+    {49, "Reserved49", MainAtPoint<&CTool::Reserved49>},
     {50, "OnNodeResized", text_operations::OnNodeResized},
     {51, "ResizeTextNode", text_operations::ResizeTextNode},
     {52, "GetPanelKind", GetPanelKind},

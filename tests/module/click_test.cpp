@@ -292,7 +292,7 @@ TEST_F(Click, HandsThePressToTheToolThatBecameCurrentAndDropsItsRecords) {
                              "selection.AddTail A", "flush 6 6 54 54", "read 6 6 54 54", "write 6 6",
                              "repaint 6 6 54 54 erase", "record CSelChangedUndoEvent"},
                             OneObjectShown),
-                     {"close pack", "record CSelChangedUndoEvent"}));
+                     {"area.1 1", "close pack", "record CSelChangedUndoEvent"}));
     EXPECT_EQ(m_stage.CurrentTool(), m_stage.Tool("CObjectPageTool"));
     EXPECT_EQ(m_stage.NewestUndo(), "CSelectTool done");
     EXPECT_EQ(m_stage.UndoClasses().size(), 1U);
