@@ -50,6 +50,15 @@ void CTextEffectState::Set(CTextNode& node, TextEffect effect, COLORREF color) {
     node.m_crEffect = color;
 }
 
+CTextEffectState::TextBelow CTextEffectState::Below(const CTextNode& node) {
+    return {node.m_hTextMask, node.m_ptText};
+}
+
+void CTextEffectState::SetBelow(CTextNode& node, const TextBelow& below) {
+    node.m_ptText = below.ptText;
+    Exchange(node.m_hTextMask, below.hMask);
+}
+
 bool CTextEffectState::Copy(const CTextNode& from, CTextNode& to) {
     Set(to, KindOf(from), from.m_crEffect);
     to.m_ptText = from.m_ptText;

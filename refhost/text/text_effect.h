@@ -1,7 +1,9 @@
 // The effects of texts, as the host gives and shows them.
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
+
+#include "host/buffer.h"
 
 class CTextNode;
 
@@ -13,6 +15,16 @@ struct CTextEffectState {
     static COLORREF ColorOf(const CTextNode& node);
     /// Gives the node an effect or, by None, takes it away. Drawn at the next m_fnRegenerateTextEffect.
     static void Set(CTextNode& node, TextEffect effect, COLORREF color);
+
+    /// The text below the effect: its own coverage, 0 while the picture shows nothing else, and where that
+    /// stands, in pixels of the picture as it was before any scaling.
+    struct TextBelow {
+        HBUF32 hMask;
+        CPoint ptText;
+    };
+    static TextBelow Below(const CTextNode& node);
+    /// Takes the buffer over; the one that was there goes.
+    static void SetBelow(CTextNode& node, const TextBelow& below);
 
     /// Copies effect and pixels that belong to it. False when memory is out.
     static bool Copy(const CTextNode& from, CTextNode& to);
