@@ -31,6 +31,7 @@ void CNames::Clear() {
     m_rootById.clear();
     m_copies.clear();
     m_nTexts = 0;
+    m_nPastes = 0;
 }
 
 void CNames::Give(const std::string& name, const CImgNode* pNode) {
@@ -98,11 +99,10 @@ std::string CNames::CompanionName(const CImgNode& owner, const CImgNode* pNode) 
 }
 
 // A person may have called a node of their own "A#2".
-std::string CNames::FreeName(const std::string& root) {
-    int& nCopies = m_copies.try_emplace(root, 1).first->second;
+std::string CNames::FreeName(const std::string& root, int& nLast) const {
     std::string name;
     do {
-        name = root + "#" + std::to_string(++nCopies);
+        name = root + "#" + std::to_string(++nLast);
     } while (m_idByName.count(name));
     return name;
 }
@@ -114,13 +114,11 @@ void CNames::NameNewNode(const CImgNode* pNode) {
         const auto found = m_rootById.find(nSource);
         const std::string root = found == m_rootById.end() ? source : found->second;
         m_rootById[pNode->m_nId] = root;
-        Give(FreeName(root), pNode);
+        Give(FreeName(root, m_copies.try_emplace(root, 1).first->second), pNode);
+    } else if (CNodeBookkeeping::IsPasted(*pNode)) {
+        Give(FreeName("paste", m_nPastes), pNode);
     } else if (pNode->m_nType == node_type::Text) {
-        std::string name;
-        do {
-            name = "text#" + std::to_string(++m_nTexts);
-        } while (m_idByName.count(name));
-        Give(name, pNode);
+        Give(FreeName("text", m_nTexts), pNode);
     } else {
         Give("node#" + std::to_string(pNode->m_nId), pNode);
     }

@@ -9,9 +9,8 @@ class CDesk;
 class CImgNode;
 
 /// Labels for nodes. A companion is called after its object ("A.shadow", "A.frame"), a copy after what it was
-/// copied from
-/// ("A#2"), new text "text#1" and so on. A node keeps its name when it is gone, so that a record can still
-/// tell it.
+/// copied from ("A#2"), a pasted object "paste#1", new text "text#1" and so on. A node keeps its name when it
+/// is gone, so that a record can still tell it.
 class CNames {
   public:
     explicit CNames(const CDesk& desk) : m_desk(desk) {}
@@ -32,7 +31,8 @@ class CNames {
 
   private:
     void NameNewNode(const CImgNode* pNode);
-    std::string FreeName(const std::string& root);
+    /// The first name of the root from a number on that nobody bears; the number becomes that name's.
+    std::string FreeName(const std::string& root, int& nLast) const;
     std::string CompanionName(const CImgNode& owner, const CImgNode* pNode);
     /// The live node that was given the name itself, or null.
     CImgNode* Labelled(const std::string& name) const;
@@ -43,4 +43,5 @@ class CNames {
     std::map<std::uint32_t, std::string> m_rootById; ///< of copies: what the first of the family is called
     std::map<std::string, int> m_copies;             ///< how many bear a root name, the first included
     int m_nTexts = 0;
+    int m_nPastes = 0;
 };

@@ -23,8 +23,8 @@ CDesk::CDesk()
     : m_service(*this), m_objectPage(kind::ObjectPage, {&m_values, &m_told, this}),
       m_textPage(kind::TextPage, {&m_values, &m_told, this}),
       m_composedPage(kind::ComposedPage, {&m_values, &m_told, this}),
-      m_clipboard(m_values), m_busObjects{&m_service,      &m_objectPage,  &m_textPage,
-                                          &m_composedPage, &m_pageObjects, &m_clipboard} {
+      m_clipboard(*this), m_busObjects{&m_service,      &m_objectPage,  &m_textPage,
+                                       &m_composedPage, &m_pageObjects, &m_clipboard} {
     const bool bReceivers = KeepReceiver(std::make_unique<CChangeTracker>()) &&
                             AddReceiver(kind::ChangeReceiver, false) &&
                             AddReceiver(kind::RedrawReceiver, false);

@@ -80,6 +80,7 @@ class CDesk : public IToolCategory, private IPageSelection {
     /// Another property object for the class: a page kind, 0 for none.
     void SetPropertyKind(const GUID& toolClass, int nKind);
     CPageObjects& PageObjects() { return m_pageObjects; }
+    CDeskClipboard& Clipboard() { return m_clipboard; }
     /// One more global receiver of kind 38 or 45; false for another kind, and without memory.
     bool AddReceiver(int nKind, bool bSearches);
 

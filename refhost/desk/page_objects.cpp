@@ -29,6 +29,39 @@ void CPageObjects::SetFitsToPlaceHolder(std::uint32_t nNodeId, bool bFits) {
     }
 }
 
+std::vector<const CImgNode*> CPageObjects::TopLevelObjects() const {
+    std::vector<const CImgNode*> objects;
+    const CImgNodeList* pList = m_pDoc ? m_pDoc->GetObjList() : nullptr;
+    for (POSITION pos = pList ? pList->GetHeadPosition() : nullptr; pos;) {
+        const CImgNode* pNode = pList->GetNext(pos);
+        if (!pNode->m_pOwner) {
+            objects.push_back(pNode);
+        }
+    }
+    return objects;
+}
+
+std::map<const CImgNode*, std::int32_t> CPageObjects::ValuesByObject() const {
+    std::map<const CImgNode*, std::int32_t> values;
+    const std::vector<const CImgNode*> objects = TopLevelObjects();
+    for (std::size_t n = 0; n < objects.size() && n < m_values.size(); ++n) {
+        values[objects[n]] = m_values[n];
+    }
+    return values;
+}
+
+// The table ends with the last object that had a value, so that further ones are appended for those behind.
+void CPageObjects::SetValuesByObject(const std::map<const CImgNode*, std::int32_t>& values) {
+    m_values.clear();
+    std::size_t nEnd = 0;
+    for (const CImgNode* pObject : TopLevelObjects()) {
+        const auto found = values.find(pObject);
+        m_values.push_back(found == values.end() ? 0 : found->second);
+        nEnd = found == values.end() ? nEnd : m_values.size();
+    }
+    m_values.resize(nEnd);
+}
+
 int CPageObjects::AppendValue(std::int32_t nValue) {
     trace::BusCall(On, IPageObjects::Id, 5, {nValue});
     m_values.push_back(nValue);

@@ -1,6 +1,7 @@
 // The host's object behind the page's objects.
 #pragma once
 
+#include <map>
 #include <set>
 #include <vector>
 
@@ -18,6 +19,11 @@ class CPageObjects : public CBusObject, public IPageObjects {
     void SetDocument(CVorDoc* pDoc);
     /// Whether operation 59 answers 1 for the node of that id; no node does at the start.
     void SetFitsToPlaceHolder(std::uint32_t nNodeId, bool bFits);
+
+    /// The values of the page's top-level objects as far as the table reaches; and the table that gives each
+    /// object its value again, 0 for one without, after the page's order has changed.
+    std::map<const CImgNode*, std::int32_t> ValuesByObject() const;
+    void SetValuesByObject(const std::map<const CImgNode*, std::int32_t>& values);
 
     int AppendValue(std::int32_t nValue) override;
     /// The table's value at the node's place among the top-level objects, front to back; 0 beyond the table.
@@ -82,6 +88,9 @@ class CPageObjects : public CBusObject, public IPageObjects {
     int Reserved58() override { return 0; }
 
   private:
+    /// Front to back.
+    std::vector<const CImgNode*> TopLevelObjects() const;
+
     CVorDoc* m_pDoc = nullptr;
     std::vector<std::int32_t> m_values;
     std::set<std::uint32_t> m_fitting;

@@ -33,6 +33,8 @@ struct CPanelValues {
     int nStyle = 0;     ///< bits: 1 bold, 2 italic, 4 underline
     COLORREF crText = RGB(255, 255, 255);
     int nSizeSnap = 0; ///< sizes are rounded down to its multiples; 0 leaves them
+    bool bRealClipboard =
+        false; ///< the object clipboard works; else it answers the following and copies nothing
     int nCanCopy = 1;
     int nCanPaste = 1;
     int nClipboardResult = 1; ///< what copying and pasting answer

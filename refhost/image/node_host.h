@@ -22,6 +22,9 @@ struct CNodeBookkeeping {
     static CImgNode* NodeById(const CImgDoc& doc, std::uint32_t nId);
     /// The id of the node that this one was duplicated from, or 0.
     static std::uint32_t CopyOf(const CImgNode& node);
+    /// Whether the node came from the object clipboard.
+    static bool IsPasted(const CImgNode& node) { return node.m_bPasted; }
+    static void SetPasted(CImgNode& node) { node.m_bPasted = true; }
     static bool IsOnPage(const CImgNode& node);
     /// The node's owner and companions as far as they live; null for none. A copy may still name companions
     /// of what it was copied from, which are none of its own.

@@ -127,6 +127,7 @@ class CImgNode {
     CImgDoc* m_pDoc = nullptr;
     std::uint32_t m_nNodeSetIndex = 0;
     std::uint32_t m_nCopyOf = 0; ///< identity of the node that this one was duplicated from
+    bool m_bPasted = false;      ///< came from the object clipboard
     POSITION m_posInObjList = nullptr;
     POSITION m_posInActList = nullptr;
     std::uint32_t m_nInObjList = 0;
