@@ -1,11 +1,49 @@
 #include <array>
 #include <climits>
 
+#include "clipboard/object_file.h"
 #include "scenario/commands.h"
+#include "scenario/error.h"
 
 namespace {
 
+void SaveObjects(const CDeskClipboard& clipboard, const std::string& file) {
+    std::string error;
+    if (clipboard.Content().empty()) {
+        throw CScenarioError("the object clipboard is empty");
+    }
+    if (!SaveObjectFile(file.c_str(), clipboard.Content(), error)) {
+        throw CScenarioError(file + ": " + error);
+    }
+}
+
+void LoadObjects(CDeskClipboard& clipboard, const std::string& file) {
+    std::vector<std::uint8_t> content;
+    std::string error;
+    if (!LoadObjectFile(file.c_str(), content, error)) {
+        throw CScenarioError(file + ": " + error);
+    }
+    clipboard.SetContent(std::move(content));
+}
+
+void ClipboardObjects(CRunner& run, CArguments& args) {
+    const bool bSave = args.OneOf("what to do", {"save", "load"}) == 0;
+    const std::string file = args.Name("FILE");
+    args.End();
+    CDeskClipboard& clipboard = run.Stage().Desk().Clipboard();
+    if (bSave) {
+        SaveObjects(clipboard, file);
+    } else {
+        LoadObjects(clipboard, file);
+    }
+    run.Say(1);
+}
+
 void Clipboard(CRunner& run, CArguments& args) {
+    if (args.TakeWord("objects")) {
+        ClipboardObjects(run, args);
+        return;
+    }
     const std::string text = args.String("TEXT");
     args.End();
     run.Stage().SetClipboard(text);
@@ -54,7 +92,7 @@ void DragText(CRunner& run, CArguments& args) {
 }
 
 constexpr std::array<CommandRow, 5> Rows = {{
-    {"clipboard", "clipboard \"TEXT\"", Clipboard},
+    {"clipboard", "clipboard \"TEXT\" | clipboard objects save FILE | load FILE", Clipboard},
     {"drop", "drop \"TEXT\" X Y [ctrl] [source N] [format N]", OfferText<&CStage::Drop>},
     {"hover", "hover \"TEXT\" X Y [ctrl] [source N] [format N]", OfferText<&CStage::Hover>},
     {"leave", "leave", Leave},

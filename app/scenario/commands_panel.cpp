@@ -85,6 +85,10 @@ void SetText(CPanelValues& values, CArguments& args) {
 }
 
 void SetClipboard(CPanelValues& values, CArguments& args) {
+    values.bRealClipboard = args.TakeWord("real");
+    if (values.bRealClipboard) {
+        return;
+    }
     values.nCanCopy = args.Int("CANCOPY");
     values.nCanPaste = args.Int("CANPASTE");
     values.nClipboardResult = args.Int("RESULT");
@@ -121,7 +125,7 @@ constexpr std::array<CommandRow, 6> Rows = {{
     {"panel-set",
      "panel-set shadow-range XMIN XMAX YMIN YMAX|none | shadow-defaults DX DY SOFT TRANSP #RRGGBB|off | "
      "transparency N | "
-     "text \"FONT\" PT ALIGN STYLE #RRGGBB | size-snap N|none | clipboard CANCOPY CANPASTE RESULT",
+     "text \"FONT\" PT ALIGN STYLE #RRGGBB | size-snap N|none | clipboard CANCOPY CANPASTE RESULT|real",
      PanelSet},
     {"fit-to-placeholder", "fit-to-placeholder NAME 0|1", FitToPlaceholder},
 }};
