@@ -28,26 +28,24 @@ bool ReadBytes(std::FILE* pFile, std::uint8_t* pBytes, std::size_t nBytes) {
     return std::fread(pBytes, 1, nBytes, pFile) == nBytes;
 }
 
-bool ReadWhole(std::FILE* pFile, std::vector<std::uint8_t>& bytes, std::string& error) {
-    struct stat status;
-    if (fstat(fileno(pFile), &status) != 0) {
-        return Fail(error, std::strerror(errno));
-    }
-    if (!S_ISREG(status.st_mode)) {
-        return Fail(error, "it is no plain file");
-    }
-    std::vector<std::uint8_t> head(ObjectHeadBytes);
+constexpr char Damaged[] = "it holds no objects, or damaged ones";
+
+bool FailToRead(std::string& error) { return Fail(error, errno != 0 ? std::strerror(errno) : Damaged); }
+
+bool ReadWhole(std::FILE* pFile, std::uint64_t nSize, std::vector<std::uint8_t>& bytes, std::string& error) {
     errno = 0;
-    if (!ReadBytes(pFile, head.data(), head.size()) ||
-        PromisedLength(head) != static_cast<std::uint64_t>(status.st_size)) {
-        return Fail(error, errno != 0 ? std::strerror(errno) : "no objects, or damaged ones");
-    }
-    std::rewind(pFile);
-    bytes.resize(static_cast<std::size_t>(status.st_size));
+    bytes.resize(ObjectHeadBytes);
     if (!ReadBytes(pFile, bytes.data(), bytes.size())) {
-        return Fail(error, errno != 0 ? std::strerror(errno) : "no objects, or damaged ones");
+        return FailToRead(error);
     }
-    return AreObjects(bytes) || Fail(error, "no objects, or damaged ones");
+    if (PromisedLength(bytes) != nSize || nSize < ObjectHeadBytes) {
+        return Fail(error, Damaged);
+    }
+    bytes.resize(static_cast<std::size_t>(nSize));
+    if (!ReadBytes(pFile, bytes.data() + ObjectHeadBytes, bytes.size() - ObjectHeadBytes)) {
+        return FailToRead(error);
+    }
+    return AreObjects(bytes) || Fail(error, Damaged);
 }
 
 } // namespace
@@ -62,14 +60,22 @@ bool SaveObjectFile(const char* pszFile, ByteView bytes, std::string& error) {
     return bWritten;
 }
 
+// Opening a pipe would wait for somebody to write into it, so what the name stands for is asked before.
 bool LoadObjectFile(const char* pszFile, std::vector<std::uint8_t>& bytes, std::string& error) {
+    struct stat status;
+    if (stat(pszFile, &status) != 0) {
+        return Fail(error, std::strerror(errno));
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return Fail(error, "it is no plain file");
+    }
     const CFilePtr file(std::fopen(pszFile, "rb"));
     if (!file) {
         return Fail(error, std::strerror(errno));
     }
     try {
         std::vector<std::uint8_t> read;
-        if (!ReadWhole(file.get(), read, error)) {
+        if (!ReadWhole(file.get(), static_cast<std::uint64_t>(status.st_size), read, error)) {
             return false;
         }
         bytes = std::move(read);
