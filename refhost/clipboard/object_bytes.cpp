@@ -145,6 +145,9 @@ bool MakeGroup(CImgDoc& doc, const GroupRecord& record, NodeGroup& group) {
 } // namespace
 
 bool WriteObjects(const std::vector<CImgNode*>& objects, std::vector<std::uint8_t>& bytes) {
+    if (objects.empty()) {
+        return false;
+    }
     std::vector<GroupRecord> groups;
     std::size_t nRoom = NodeRoom;
     for (const CImgNode* pObject : objects) {
@@ -169,7 +172,7 @@ bool WriteObjects(const std::vector<CImgNode*>& objects, std::vector<std::uint8_
     writer.PutLong(LengthPlace, writer.Size() + ChecksumBytes);
     writer.Number(Crc32(written));
     bytes = std::move(written);
-    return !groups.empty();
+    return true;
 }
 
 std::uint64_t PromisedLength(ByteView head) {

@@ -189,6 +189,35 @@ TEST_F(DeskWithTools, PageObjectsKeepValuesByPlaceAmongTopLevelObjects) {
     EXPECT_EQ(objects.GetValue(stage.Node("A")), 0);
 }
 
+TEST_F(DeskWithTools, ValuesStayWithTheirObjectsWhenOthersArePasted) {
+    stage.AddPicture("A", RGB(1, 2, 3), 0, 0, 10, 10);
+    stage.AddPicture("B", RGB(1, 2, 3), 20, 0, 10, 10);
+    stage.AddPicture("E", RGB(1, 2, 3), 40, 0, 10, 10);
+    stage.Desk().Panels().bRealClipboard = true;
+    CPageObjects& objects = stage.Desk().PageObjects();
+    const auto values = [&] {
+        std::vector<std::int32_t> all;
+        for (const std::string& name : stage.PageNames()) {
+            all.push_back(objects.GetValue(stage.Node(name)));
+        }
+        return all;
+    };
+    objects.AppendValue(33);
+    objects.AppendValue(22);
+    stage.Exclude(stage.Node("B"));
+    stage.Select({"A", "E"});
+    stage.Desk().Clipboard().Copy({});
+
+    EXPECT_EQ(1, stage.Desk().Clipboard().Paste(CPoint(5, 5), 0));
+
+    // B, the two that came, E and A; the table ends with E, so that the next value is A's.
+    EXPECT_EQ((std::vector<std::int32_t>{22, 0, 0, 33, 0}), values());
+    objects.AppendValue(11);
+    EXPECT_EQ((std::vector<std::int32_t>{22, 0, 0, 33, 11}), values());
+    stage.Undo();
+    EXPECT_EQ((std::vector<std::int32_t>{33, 22, 0}), values());
+}
+
 TEST(BusCommand, RemovesAndRestores) {
     const Outcome outcome =
         RunLines("picture A #FF0000 10 10 40 40\ntool CSelectTool\ndump calls\nbus remove 51\n"
