@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "editor_binding.h"
 #include "editor_host.h"
+#include "fuzz_input.h"
 #include "platform/clipboard.h"
 #include "platform/code_page.h"
 #include "platform/faults.h"
@@ -31,53 +30,6 @@ constexpr std::array<const char*, 5> Faces = {"Arial", "Courier New", "MS Gothic
 constexpr std::array<const char*, 7> Faults = {"window",         "bitmap",    "buffer", "display-context",
                                                "device-context", "rich-edit", "font"};
 constexpr std::array<UINT, 3> CodePages = {1252, 932, 949};
-
-void Require(bool bHolds, const char* pszLaw) {
-    if (!bHolds) {
-        std::fprintf(stderr, "broken: %s\n", pszLaw);
-        std::abort();
-    }
-}
-
-/// Takes bytes from the front; zeros when there are none left.
-class CInput {
-  public:
-    CInput(const std::uint8_t* pBytes, std::size_t nSize) : m_pBytes(pBytes), m_nLeft(nSize) {}
-
-    bool IsEmpty() const { return m_nLeft == 0; }
-    int Byte() {
-        if (m_nLeft == 0) {
-            return 0;
-        }
-        --m_nLeft;
-        return *m_pBytes++;
-    }
-    bool Bit() { return (Byte() & 1) != 0; }
-    /// Mostly around the text's own numbers, and the ends of the range.
-    int Number() {
-        const int n = static_cast<std::int8_t>(Byte());
-        return n == -128 ? -2147483647 - 1 : n == 127 ? 2147483647 : n;
-    }
-    CPoint Point() {
-        const int nX = Byte();
-        return {nX - 40, Byte() - 60};
-    }
-    std::string Text() {
-        std::string text;
-        for (int n = Byte() % 24; n > 0 && m_nLeft > 0; --n) {
-            text += static_cast<char>(Byte());
-        }
-        return text;
-    }
-    template <class Rows>
-    auto Of(const Rows& rows) {
-        return rows[static_cast<std::size_t>(Byte()) % rows.size()];
-    }
-
-  private:
-    const std::uint8_t* m_pBytes;
-    std::size_t m_nLeft;
-};
 
 CString TextOf(const std::string& bytes) { return CString(bytes.data(), static_cast<int>(bytes.size())); }
 
