@@ -2,9 +2,9 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <vector>
 
 #include "buffer/buffer_host.h"
+#include "buffer/handle_table.h"
 #include "platform/faults.h"
 #include "platform/pixels.h"
 
@@ -32,92 +32,8 @@ std::size_t ByteCount(const Header& header) {
            static_cast<std::size_t>(header.nUnit);
 }
 
-/// Handles to buffers. A handle is a slot number and the slot's generation, which changes with each buffer in
-/// it, so that a stale handle fails. Freed slots are taken again oldest first, which keeps generations from
-/// coming round quickly.
-class CHandleTable {
-  public:
-    /// 0 when all slots are in use.
-    HBUF32 Add(Header* pHeader);
-    Header* Find(HBUF32 hBuf) const;
-    /// Takes the slot out of use; the memory stays the caller's.
-    void Remove(HBUF32 hBuf);
-    std::size_t Count() const { return m_nCount; }
-
-  private:
-    static constexpr unsigned SlotBits = 21;
-    static constexpr std::uint32_t SlotMask = (1U << SlotBits) - 1;
-    static constexpr std::uint32_t LastGeneration = (1U << (31 - SlotBits)) - 1;
-    static constexpr std::uint32_t NoSlot = SlotMask;
-
-    static std::uint64_t FreeEntry(std::uint32_t nGeneration, std::uint32_t nNext) {
-        return static_cast<std::uint64_t>(nGeneration) << 32 | static_cast<std::uint64_t>(nNext) << 1 | 1;
-    }
-    static std::uint32_t GenerationOf(std::uint64_t nEntry) {
-        return static_cast<std::uint32_t>(nEntry >> 32);
-    }
-    static std::uint32_t NextOf(std::uint64_t nEntry) { return static_cast<std::uint32_t>(nEntry) >> 1; }
-    std::uint32_t TakeSlot();
-
-    std::vector<std::uint64_t> m_entries; ///< a header's address, or with bit 0 set a free slot
-    std::uint32_t m_nFirstFree = NoSlot;
-    std::uint32_t m_nLastFree = NoSlot;
-    std::size_t m_nCount = 0;
-};
-
-std::uint32_t CHandleTable::TakeSlot() {
-    if (m_nFirstFree == NoSlot) {
-        if (m_entries.size() >= NoSlot) {
-            return NoSlot;
-        }
-        m_entries.push_back(FreeEntry(1, NoSlot));
-        return static_cast<std::uint32_t>(m_entries.size() - 1);
-    }
-    const std::uint32_t nSlot = m_nFirstFree;
-    m_nFirstFree = NextOf(m_entries[nSlot]);
-    if (m_nFirstFree == NoSlot) {
-        m_nLastFree = NoSlot;
-    }
-    return nSlot;
-}
-
-HBUF32 CHandleTable::Add(Header* pHeader) {
-    const std::uint32_t nSlot = TakeSlot();
-    if (nSlot == NoSlot) {
-        return 0;
-    }
-    pHeader->nGeneration = GenerationOf(m_entries[nSlot]);
-    m_entries[nSlot] = reinterpret_cast<std::uintptr_t>(pHeader);
-    ++m_nCount;
-    return static_cast<HBUF32>(pHeader->nGeneration << SlotBits | nSlot);
-}
-
-Header* CHandleTable::Find(HBUF32 hBuf) const {
-    const std::uint32_t nHandle = static_cast<std::uint32_t>(hBuf);
-    const std::uint32_t nSlot = nHandle & SlotMask;
-    if (nSlot >= m_entries.size() || (m_entries[nSlot] & 1) != 0) {
-        return nullptr;
-    }
-    Header* pHeader = reinterpret_cast<Header*>(static_cast<std::uintptr_t>(m_entries[nSlot]));
-    return pHeader->nGeneration == nHandle >> SlotBits ? pHeader : nullptr;
-}
-
-void CHandleTable::Remove(HBUF32 hBuf) {
-    const Header* pHeader = Find(hBuf);
-    const std::uint32_t nSlot = static_cast<std::uint32_t>(hBuf) & SlotMask;
-    const std::uint32_t nGeneration = pHeader->nGeneration == LastGeneration ? 1 : pHeader->nGeneration + 1;
-    m_entries[nSlot] = FreeEntry(nGeneration, NoSlot);
-    if (m_nLastFree == NoSlot) {
-        m_nFirstFree = nSlot;
-    } else {
-        m_entries[m_nLastFree] = FreeEntry(GenerationOf(m_entries[m_nLastFree]), nSlot);
-    }
-    m_nLastFree = nSlot;
-    --m_nCount;
-}
-
-CHandleTable& Table() {
-    static CHandleTable table;
+CHandleTable<Header>& Table() {
+    static CHandleTable<Header> table;
     return table;
 }
 
