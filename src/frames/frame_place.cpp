@@ -1,20 +1,12 @@
 #include "frames/frame_place.h"
 
+#include "host/placeholder.h"
 #include "ops/saturate.h"
 
 namespace {
 
 CRect RectOf(const CImgNode& node) {
     return CRect(CPoint(node.m_tx.nX, node.m_tx.nY), CSize(node.m_tx.nWidth, node.m_tx.nHeight));
-}
-
-// An empty rectangle has no scale; what it frames keeps its size.
-double ScaleOf(int nPage, int nComponent) {
-    return nComponent > 0 ? static_cast<double>(nPage) / nComponent : 1.0;
-}
-
-int Mapped(int nOrigin, int nOffset, double dScale) {
-    return Saturated(static_cast<long long>(nOrigin) + Truncated(nOffset * dScale));
 }
 
 // The object's own empty frame is its component.
@@ -28,14 +20,9 @@ void FollowFrame(CImgNode& object) {
 } // namespace
 
 CRect PlaceHolderOnPage(const CImgNode& object) {
-    const CRect rcPage = RectOf(*object.m_pFrameNode);
-    const CRect& rcFrame = object.m_rcFrame;
-    const CRect& rcInner = object.m_rcPlaceHolder;
-    const double dX = ScaleOf(rcPage.Width(), rcFrame.Width());
-    const double dY = ScaleOf(rcPage.Height(), rcFrame.Height());
-    const CPoint ptCorner(Mapped(rcPage.left, rcInner.left - rcFrame.left, dX),
-                          Mapped(rcPage.top, rcInner.top - rcFrame.top, dY));
-    return CRect(ptCorner, CSize(Truncated(rcInner.Width() * dX), Truncated(rcInner.Height() * dY)));
+    CRect rcOnPage;
+    object.m_pFrameNode->GetBoundRect(&rcOnPage);
+    return MapPlaceHolder(object.m_rcFrame, object.m_rcPlaceHolder, rcOnPage);
 }
 
 void CenterFrame(CImgNode& object) {

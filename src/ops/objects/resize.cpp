@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/panels.h"
+#include "host/placeholder.h"
 #include "ops/axis.h"
 #include "ops/bus.h"
 #include "shadows/shadow_build.h"
@@ -13,36 +14,6 @@
 namespace {
 
 constexpr int LeastTextSize = 1; ///< pixels; no handle leads back from nothing
-
-/// How a rectangle's box is mapped onto another: a corner, and a factor for each axis.
-class CBoxMap {
-  public:
-    CBoxMap(const CRect& rcFrom, const CRect& rcTo)
-        : m_rcFrom(rcFrom), m_ptTo(rcTo.TopLeft()), m_dX(Factor(Width(rcTo), Width(rcFrom))),
-          m_dY(Factor(Height(rcTo), Height(rcFrom))) {}
-
-    /// Offsets and sizes are each truncated.
-    CRect Map(const CRect& rc) const {
-        const long long nLeft =
-            m_ptTo.x + static_cast<long long>(Scaled(Offset(rc.left, m_rcFrom.left), m_dX));
-        const long long nTop = m_ptTo.y + static_cast<long long>(Scaled(Offset(rc.top, m_rcFrom.top), m_dY));
-        return CRect(Saturated(nLeft), Saturated(nTop), Saturated(nLeft + Scaled(Width(rc), m_dX)),
-                     Saturated(nTop + Scaled(Height(rc), m_dY)));
-    }
-
-  private:
-    static double Width(const CRect& rc) { return Offset(rc.right, rc.left); }
-    static double Height(const CRect& rc) { return Offset(rc.bottom, rc.top); }
-    static double Offset(int nTo, int nFrom) { return static_cast<double>(nTo) - nFrom; }
-    static long long Scaled(double dLength, double dFactor) { return Truncated(dLength * dFactor); }
-    // A box without extent has no factor; what lies in it keeps its size.
-    static double Factor(double dTo, double dFrom) { return dFrom != 0 ? dTo / dFrom : 1.0; }
-
-    CRect m_rcFrom;
-    CPoint m_ptTo;
-    double m_dX;
-    double m_dY;
-};
 
 // The picture with its own proportions, as large as it fits, in the middle of the rectangle.
 CRect FittedIn(const CRect& rc, const CImgNode& node) {
