@@ -3,6 +3,8 @@
 #include <memory>
 
 #include "buffer/buffer_host.h"
+#include "host/frame_param.h"
+#include "host/placeholder.h"
 #include "image/node_host.h"
 #include "platform/faults.h"
 
@@ -72,6 +74,7 @@ CImgNode::~CImgNode() {
     FreeBuffer(m_hTransSrcImage);
     FreeBuffer(m_hTransSrcMask);
     FreeBuffer(m_hMergeBuf);
+    delete m_pFrameParam;
 }
 
 void CImgNode::GetBoundRect(CRect* pRect) {
@@ -218,4 +221,23 @@ int CImgNode::SetImage(HBUF32 hImage, HBUF32 hMask, int nX, int nY, int /*nReser
     m_tx.nHeight = image.height;
     CNodeBookkeeping::PlaceChanged(*this);
     return 1;
+}
+
+void CImgNode::SetTransSrcImg(HBUF32 hImage) {
+    ReplaceBuffer(m_hTransSrcImage, hImage);
+    CNodeBookkeeping::PlaceChanged(*this);
+}
+
+void CImgNode::SetTransSrcMask(HBUF32 hMask) {
+    ReplaceBuffer(m_hTransSrcMask, hMask);
+    CNodeBookkeeping::PlaceChanged(*this);
+}
+
+void CImgNode::m_fnRemoveMergeBuf() { FreeBuffer(m_hMergeBuf); }
+
+CRect CImgNode::m_fnGetPlaceHolderRect() {
+    const bool bFramed = m_pFrameNode && !m_rcFrame.IsRectEmpty();
+    CRect rcOnPage;
+    (bFramed ? m_pFrameNode : this)->GetBoundRect(&rcOnPage);
+    return bFramed ? MapPlaceHolder(m_rcFrame, m_rcPlaceHolder, rcOnPage) : rcOnPage;
 }

@@ -5,6 +5,7 @@
 #include <unordered_set>
 
 #include "buffer/buffer_host.h"
+#include "host/frame_param.h"
 #include "image/spatial_index.h"
 
 namespace {
@@ -24,6 +25,11 @@ LONG Saturated(std::int64_t nValue) {
 bool CopyBuffer(HBUF32 hFrom, HBUF32& hTo) {
     hTo = hFrom != 0 ? buf32DupBuf(hFrom) : 0;
     return hFrom == 0 || hTo != 0;
+}
+
+bool CopyParam(const CFrameParam* pFrom, CFrameParam*& pTo) {
+    pTo = pFrom ? new CFrameParam(*pFrom) : nullptr;
+    return !pFrom || pTo;
 }
 
 CImgNode* OwnCompanion(const CImgNode& node, CImgNode* pCompanion) {
@@ -143,5 +149,5 @@ bool CNodeBookkeeping::CopyFields(const CImgNode& from, CImgNode& to) {
     return CopyBuffer(from.m_hImage, to.m_hImage) && CopyBuffer(from.m_tx.hMask, to.m_tx.hMask) &&
            CopyBuffer(from.m_hTransSrcImage, to.m_hTransSrcImage) &&
            CopyBuffer(from.m_hTransSrcMask, to.m_hTransSrcMask) &&
-           CopyBuffer(from.m_hMergeBuf, to.m_hMergeBuf);
+           CopyBuffer(from.m_hMergeBuf, to.m_hMergeBuf) && CopyParam(from.m_pFrameParam, to.m_pFrameParam);
 }

@@ -57,7 +57,7 @@ struct CNodeBookkeeping {
     static void Unregister(CImgNode& node);
     /// Copies the plain public values but those of the transform block.
     static void CopyValues(const CImgNode& from, CImgNode& to);
-    /// Copies every public field but identity, links and buffers, which get copies of their own. False when
-    /// one fails.
+    /// Copies every public field but identity and links; buffers and the frame's parameter get copies of
+    /// their own. False when one fails.
     static bool CopyFields(const CImgNode& from, CImgNode& to);
 };

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "buffer/buffer_host.h"
+#include "host/frame_param.h"
 #include "host/text_engine.h"
 #include "image/node_host.h"
 #include "platform/faults.h"
@@ -110,6 +111,7 @@ void CTextNode::m_fnMoveMemberDataFrom(CTextNode* pOther) {
     MoveBuffer(pOther->m_hTransSrcImage, m_hTransSrcImage);
     MoveBuffer(pOther->m_hTransSrcMask, m_hTransSrcMask);
     MoveBuffer(pOther->m_hMergeBuf, m_hMergeBuf);
+    delete std::exchange(m_pFrameParam, std::exchange(pOther->m_pFrameParam, nullptr));
     const HBUF32 hMask = m_tx.hMask;
     m_tx = pOther->m_tx;
     m_tx.hMask = hMask;

@@ -43,7 +43,7 @@ class CImgNode {
     explicit CImgNode(CImgDoc* pDoc);
     CImgNode(const CImgNode&) = delete;
     CImgNode& operator=(const CImgNode&) = delete;
-    /// Frees the node's buffers and leaves the document's lists. Companions are not freed.
+    /// Frees the node's buffers and parameter and leaves the document's lists. Companions are not freed.
     virtual ~CImgNode();
 
     /// Bounds without companions.
@@ -85,6 +85,17 @@ class CImgNode {
     /// bad image (then nothing changes).
     int SetImage(HBUF32 hImage, HBUF32 hMask, int nX, int nY, int nReserved);
 
+    /// Gives the node the picture or the mask that it shows at whatever size it has, as they were before any
+    /// scaling (24-bit and 8-bit, or 0 for none). The node owns them from then on, and their pixels stay as
+    /// they are; what it had is freed. A source is shown with its own mask; without one it leaves the node's.
+    void SetTransSrcImg(HBUF32 hImage);
+    void SetTransSrcMask(HBUF32 hMask);
+    /// Frees the merge buffer, if there is one.
+    void m_fnRemoveMergeBuf();
+    /// The object's placeholder as its frame has it on the page; the object's bounds without a frame or with
+    /// an empty frame rectangle.
+    CRect m_fnGetPlaceHolderRect();
+
     /// Brings image and mask to the node's size, always from the picture as it was before any scaling. The
     /// arguments are 0 or 1 and reserved. When memory is out the buffers stay and are scaled as they are
     /// drawn.
@@ -96,7 +107,7 @@ class CImgNode {
     int m_nType = node_type::Picture;
     CTxParam m_tx;                  ///< position, size, mask and the rest of the transform block
     HBUF32 m_hImage = 0;            ///< owned; 24-bit; drawn at the node's size
-    HBUF32 m_hTransSrcImage = 0;    ///< owned; the picture before any scaling, or 0
+    HBUF32 m_hTransSrcImage = 0;    ///< owned; the picture before any scaling, or 0; shown before the image
     HBUF32 m_hTransSrcMask = 0;     ///< owned; its mask, or 0
     HBUF32 m_hMergeBuf = 0;         ///< owned; 0 when none
     std::int32_t m_nBrightness = 0; ///< display values: read freely, written through `m_fnUpdateBCAndT`
