@@ -37,12 +37,6 @@ CHandleTable<Header>& Table() {
     return table;
 }
 
-bool IsSize(int nWidth, int nHeight) {
-    const auto side = [](int nSide) { return nSide >= 1 && nSide <= MaxSide; };
-    return side(nWidth) && side(nHeight) &&
-           static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight) <= MaxPixels;
-}
-
 /// A buffer's memory, cleared or not; null when there is none, or no room for more pixels.
 Header* Allocate(int nUnit, int nWidth, int nHeight, bool bClear) {
     Header header{0, 0, static_cast<std::int16_t>(nWidth), static_cast<std::int16_t>(nHeight), nUnit};
@@ -84,7 +78,7 @@ int buf32Alloc(HBUF32* phBuf, int nBits, int nWidth, int nHeight, int nFill, int
         return 0;
     }
     *phBuf = 0;
-    if ((nBits != 8 && nBits != 24 && nBits != 32) || !IsSize(nWidth, nHeight)) {
+    if ((nBits != 8 && nBits != 24 && nBits != 32) || !buffer_host::IsSize(nWidth, nHeight)) {
         return 0;
     }
     if (platform::FaultTrips("buffer")) {
@@ -160,6 +154,25 @@ View Look(HBUF32 hBuf) {
         return {};
     }
     return {Pixels(pHeader), pHeader->nWidth, pHeader->nHeight, pHeader->nUnit};
+}
+
+bool IsSize(int nWidth, int nHeight) {
+    const auto side = [](int nSide) { return nSide >= 1 && nSide <= MaxSide; };
+    return side(nWidth) && side(nHeight) &&
+           static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight) <= MaxPixels;
+}
+
+OwnPixels::OwnPixels(int nUnit, int nWidth, int nHeight) {
+    const View wanted{nullptr, nWidth, nHeight, nUnit};
+    if (!IsSize(nWidth, nHeight)) {
+        return;
+    }
+    const std::size_t nBytes = wanted.RowBytes() * static_cast<std::size_t>(nHeight) + ReadablePadding;
+    memory = platform::MakePixels((nBytes + sizeof(DWORD) - 1) / sizeof(DWORD));
+    if (memory) {
+        view = wanted;
+        view.pixels = reinterpret_cast<std::uint8_t*>(memory.get());
+    }
 }
 
 std::size_t BufferCount() { return Table().Count(); }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "host/buffer.h"
+#include "platform/pixels.h"
 
 namespace buffer_host {
 
@@ -26,6 +27,19 @@ struct View {
 
 /// The buffer's pixels without counting a lock; `pixels` is null for a bad handle.
 View Look(HBUF32 hBuf);
+/// Whether a buffer may have that size: sides from 1 to 32,767, and no more than 2^27 pixels.
+bool IsSize(int nWidth, int nHeight);
+
+/// Pixels of the host's own, laid out as a buffer's, that no handle leads to. They count as pixels of the
+/// process, not as buffers. Without pixels when the size is out of range or memory is short.
+struct OwnPixels {
+    OwnPixels() = default;
+    OwnPixels(int nUnit, int nWidth, int nHeight);
+
+    View view;
+    platform::PixelArray memory;
+};
+
 /// Goes up whenever a buffer's pixels may have been written from outside: at every lock.
 std::uint32_t LockCount();
 /// The buffers alive in the process.

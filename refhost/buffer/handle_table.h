@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <vector>
 
 /// Handles to things that stand elsewhere and have a member `nGeneration` of 32 bits, which is the table's. A
@@ -11,7 +12,7 @@
 template <class Thing>
 class CHandleTable {
   public:
-    /// 0 when all slots are in use.
+    /// 0 when all slots are in use or memory for more is out.
     std::int32_t Add(Thing* pThing);
     /// Null for a handle that is none, or none any more.
     Thing* Find(std::int32_t nHandle) const;
@@ -46,7 +47,11 @@ std::uint32_t CHandleTable<Thing>::TakeSlot() {
         if (m_entries.size() >= NoSlot) {
             return NoSlot;
         }
-        m_entries.push_back(FreeEntry(1, NoSlot));
+        try {
+            m_entries.push_back(FreeEntry(1, NoSlot));
+        } catch (const std::bad_alloc&) {
+            return NoSlot;
+        }
         return static_cast<std::uint32_t>(m_entries.size() - 1);
     }
     const std::uint32_t nSlot = m_nFirstFree;

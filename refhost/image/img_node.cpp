@@ -6,6 +6,7 @@
 #include "host/frame_param.h"
 #include "host/placeholder.h"
 #include "image/node_host.h"
+#include "image/shown_picture.h"
 #include "platform/faults.h"
 
 namespace {
@@ -142,8 +143,8 @@ int CImgNode::PtInMask(CPoint point) {
     if (!rcNode.PtInRect(point)) {
         return 0;
     }
-    const buffer_host::View mask = buffer_host::Look(m_tx.hMask);
-    if (!mask.pixels || mask.unit != 1) {
+    const buffer_host::View mask = CShownPicture::Of(*this).mask;
+    if (!mask.pixels) {
         return 1;
     }
     const std::int64_t nWidth = std::int64_t{rcNode.right} - rcNode.left;

@@ -6,6 +6,7 @@
 #include "host/img_node.h"
 #include "image/node_host.h"
 #include "image/picture_node.h"
+#include "image/shown_picture.h"
 
 namespace {
 
@@ -30,7 +31,7 @@ bool Resampled(const Picture& original, int nWidth, int nHeight, Picture& shown)
 void AddMask(const View& whole, const CRect& rcWhole, CImgNode& node) {
     CRect rcNode;
     node.GetBoundRect(&rcNode);
-    const View mask = Look(node.m_tx.hMask);
+    const View mask = CShownPicture::Of(node).mask;
     for (int y = rcNode.top; y < rcNode.bottom; ++y) {
         std::uint8_t* pOut = whole.Row(y - rcWhole.top) - rcWhole.left;
         for (int x = rcNode.left; x < rcNode.right; ++x) {
@@ -80,13 +81,13 @@ void CImgNode::m_fnAdjustImageNodeBuf(int /*nReserved*/, int /*nReserved2*/) {
     }
     m_hImage = shown.image.Release();
     CNodeBookkeeping::PlaceChanged(*this);
-    if (!bMaskGoesAlong) {
-        return;
+    if (bMaskGoesAlong) {
+        if (bOriginal) {
+            buf32Free(m_tx.hMask);
+        }
+        m_tx.hMask = shown.mask.Release();
     }
-    if (bOriginal) {
-        buf32Free(m_tx.hMask);
-    }
-    m_tx.hMask = shown.mask.Release();
+    CShownPicture::MarkScaled(*this);
 }
 
 HBUF32 CImgNode::CreateMaskBufByCombine() {

@@ -6,6 +6,7 @@
 
 #include "buffer/buffer_host.h"
 #include "host/frame_param.h"
+#include "image/shown_picture.h"
 #include "image/spatial_index.h"
 
 namespace {
@@ -138,6 +139,7 @@ void CNodeBookkeeping::CopyValues(const CImgNode& from, CImgNode& to) {
     to.m_nKeepProportions = from.m_nKeepProportions;
     to.m_nPictureWidth = from.m_nPictureWidth;
     to.m_nPictureHeight = from.m_nPictureHeight;
+    to.m_scaledBuffers = from.m_scaledBuffers; // It says nothing until the buffers are the same ones.
 }
 
 bool CNodeBookkeeping::CopyFields(const CImgNode& from, CImgNode& to) {
@@ -146,8 +148,10 @@ bool CNodeBookkeeping::CopyFields(const CImgNode& from, CImgNode& to) {
     to.m_tx.hMask = 0;
     CopyValues(from, to);
     to.m_nCopyOf = from.m_nId;
-    return CopyBuffer(from.m_hImage, to.m_hImage) && CopyBuffer(from.m_tx.hMask, to.m_tx.hMask) &&
-           CopyBuffer(from.m_hTransSrcImage, to.m_hTransSrcImage) &&
-           CopyBuffer(from.m_hTransSrcMask, to.m_hTransSrcMask) &&
-           CopyBuffer(from.m_hMergeBuf, to.m_hMergeBuf) && CopyParam(from.m_pFrameParam, to.m_pFrameParam);
+    const bool bCopied =
+        CopyBuffer(from.m_hImage, to.m_hImage) && CopyBuffer(from.m_tx.hMask, to.m_tx.hMask) &&
+        CopyBuffer(from.m_hTransSrcImage, to.m_hTransSrcImage) &&
+        CopyBuffer(from.m_hTransSrcMask, to.m_hTransSrcMask) && CopyBuffer(from.m_hMergeBuf, to.m_hMergeBuf);
+    CShownPicture::CopyMark(from, to);
+    return bCopied && CopyParam(from.m_pFrameParam, to.m_pFrameParam);
 }

@@ -7,6 +7,7 @@
 
 #include "image/blend.h"
 #include "image/node_host.h"
+#include "image/shown_picture.h"
 
 namespace {
 
@@ -107,18 +108,20 @@ void CPageComposer::DrawBase(const CImgDoc& doc, const ViewMap& map, const Pixel
 
 void CPageComposer::DrawNode(const CImgNode& node, const ViewMap& map, const PixelTarget& target,
                              const RECT& rcPart) {
-    const buffer_host::View image = buffer_host::Look(node.m_hImage);
-    const buffer_host::View mask = buffer_host::Look(node.m_tx.hMask);
     const auto placement = Place(map.RectToClient(CNodeBookkeeping::NodeRect(node)), rcPart);
     const Look look(node);
-    if (!image.pixels || image.unit != 3 || !placement || look.bHidden) {
+    if (!placement || look.bHidden) {
+        return;
+    }
+    const PixelPair shown = CShownPicture::Of(node);
+    if (!shown.image.pixels) {
         return;
     }
     const int nCount = placement->Count();
-    const bool bMask = mask.pixels && mask.unit == 1;
-    Open(m_image, image, *placement);
+    const bool bMask = shown.mask.pixels;
+    Open(m_image, shown.image, *placement);
     if (bMask) {
-        Open(m_mask, mask, *placement);
+        Open(m_mask, shown.mask, *placement);
     }
     m_toned.resize(static_cast<std::size_t>(nCount) * 3 + buffer_host::ReadablePadding);
     // Without a mask of its own a transparent node has one even share everywhere.

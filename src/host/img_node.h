@@ -1,8 +1,10 @@
 // The canvas object of the image engine.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 #include <afxwin.h>
 
@@ -11,6 +13,7 @@
 
 class CImgDoc;
 class CFrameParam;
+class CScaledSource;
 
 /// Type codes of a node.
 namespace node_type {
@@ -132,6 +135,7 @@ class CImgNode {
     friend class CImgNodeList;
     friend class CSpatialIndex;
     friend struct CNodeBookkeeping;
+    friend struct CShownPicture;
 
     // The document's bookkeeping: where the node stands in its lists (the first place and the number of
     // places), its order key, ascending from front to back, and its cell in the spatial index.
@@ -148,4 +152,9 @@ class CImgNode {
     CImgNode* m_pPrevInCell = nullptr;
     CRect m_rcIndexed;
     bool m_bIndexed = false;
+
+    // What the host shows of a transform source: image and mask when they are the source at the node's size
+    // (with the buffers that say so: both, and both of the source), else a copy made when first looked at.
+    std::array<HBUF32, 4> m_scaledBuffers{};
+    mutable std::unique_ptr<CScaledSource> m_pScaledSource;
 };
