@@ -6,10 +6,12 @@
 #include <ostream>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
 #include "scenario/commands.h"
+#include "scenario/error.h"
 #include "scenario/runner.h"
 
 namespace {
@@ -63,6 +65,22 @@ int RenderScenario(const Request& request, std::istream& in, std::ostream& err) 
     return exit_status::Done;
 }
 
+/// The subcommand takes a scenario command's arguments, its own name being that of the command.
+int MakeComponent(const std::vector<std::string>& words, std::ostream& err) {
+    std::vector<Token> tokens = {LexArgument("component")};
+    for (const std::string& word : words) {
+        tokens.push_back(LexArgument(word));
+    }
+    try {
+        CArguments args(tokens, FindCommand("component")->pszUsage);
+        WriteComponentTo(args);
+    } catch (const CScenarioError& error) {
+        err << "pradix: " << error.what() << '\n';
+        return exit_status::Unusable;
+    }
+    return exit_status::Done;
+}
+
 /// Whether all that was said has got out; a full disk may show only now.
 bool IsWritten(std::ostream& out, std::ostream& err) {
     if (!out.flush()) {
@@ -83,6 +101,9 @@ int CarryOut(int argc, const char* const* argv, std::istream& in, std::ostream& 
     pRender->add_option("FILE.scn", request.scenario, "The scenario, or - for standard input.")->required();
     pRender->add_option("OUT.png", request.picture, "The picture to write.")->required();
     pRender->add_option("--scale", request.scale, "Pixels per document unit.");
+    CLI::App* pComponent = app.add_subcommand("component", "Writes a component file, as the command of a "
+                                                           "scenario does: FILE NAME X Y W H FILL...");
+    pComponent->prefix_command(); // Everything behind is left as it is, numbers below 0 too.
 
     try {
         app.parse(argc, argv);
@@ -90,6 +111,9 @@ int CarryOut(int argc, const char* const* argv, std::istream& in, std::ostream& 
         const bool bAsked = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success);
         app.exit(error, out, err);
         return bAsked ? exit_status::Done : exit_status::Unusable;
+    }
+    if (pComponent->parsed()) {
+        return MakeComponent(pComponent->remaining(), err);
     }
     return pRun->parsed() ? RunScenario(request, in, out, err) : RenderScenario(request, in, err);
 }

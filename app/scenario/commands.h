@@ -22,9 +22,12 @@ const CommandRow* FindCommand(const std::string& name);
 /// Composes the page alone at a scale and writes it as a PNG. False and one line of error when it cannot be
 /// done.
 bool RenderToFile(CStage& stage, const std::string& file, double dScale, std::string& error);
+/// Writes the component file that the arguments name and describe. Throws CScenarioError when it cannot.
+void WriteComponentTo(CArguments& args);
 /// Each table holds the commands of one topic.
 std::span<const CommandRow> HostCommands();
 std::span<const CommandRow> StageCommands();
+std::span<const CommandRow> ComponentCommands();
 std::span<const CommandRow> PanelCommands();
 std::span<const CommandRow> InputCommands();
 std::span<const CommandRow> ToolCommands();

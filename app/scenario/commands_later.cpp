@@ -4,8 +4,7 @@
 
 namespace {
 
-constexpr std::array<CommandRow, 3> Rows = {{
-    {"component", "component FILE (NAME X Y W H #RRGGBB|none [mask ellipse])...", nullptr},
+constexpr std::array<CommandRow, 2> Rows = {{
     {"shadow-mode", "shadow-mode N", nullptr},
     {"frame", "frame apply FILE | apply-to FILE NAME... | remove | query", nullptr},
 }};

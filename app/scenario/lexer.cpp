@@ -34,6 +34,7 @@ COLORREF ColorOf(const std::string& digits) {
 
 /// Lists in lists in lists: deeper ones are a slip, and each takes room on the stack.
 constexpr int DeepestList = 16;
+constexpr std::size_t ColorLength = 7;
 
 char HexEscape(const std::string& text, std::size_t& nAt) {
     if (nAt + 1 >= text.size() || !IsHex(text[nAt]) || !IsHex(text[nAt + 1])) {
@@ -56,6 +57,24 @@ char Escape(const std::string& text, std::size_t& nAt) {
     case 'x': return HexEscape(text, nAt);
     default: throw CScenarioError("an escape in a string is none of \\n \\r \\t \\\" \\\\ \\xHH");
     }
+}
+
+/// Makes the word a number if it is one.
+void ReadNumber(Token& token) {
+    const char c = token.text[0];
+    if (c != '-' && c != '+' && c != '.' && !std::isdigit(static_cast<unsigned char>(c))) {
+        return;
+    }
+    if (token.text.find_first_not_of("0123456789+-.eE") != std::string::npos) {
+        return;
+    }
+    char* pEnd = nullptr;
+    token.number = std::strtod(token.text.c_str(), &pEnd);
+    if (*pEnd != '\0' || !std::isfinite(token.number)) {
+        return;
+    }
+    token.kind = TokenKind::Number;
+    token.whole = token.number == std::trunc(token.number);
 }
 
 class CLexer {
@@ -84,7 +103,7 @@ class CLexer {
                (bInList && (m_line[nAt] == ']' || m_line[nAt] == ','));
     }
     bool IsColorHere(bool bInList) const {
-        return SixDigits(m_line, m_nAt + 1) && EndsToken(m_nAt + 7, bInList);
+        return SixDigits(m_line, m_nAt + 1) && EndsToken(m_nAt + ColorLength, bInList);
     }
 
     /// False at the line's end or at a comment.
@@ -108,9 +127,9 @@ class CLexer {
     Token Color() {
         Token token;
         token.kind = TokenKind::Color;
-        token.text = m_line.substr(m_nAt, 7);
+        token.text = m_line.substr(m_nAt, ColorLength);
         token.color = ColorOf(m_line.substr(m_nAt + 1, 6));
-        m_nAt += 7;
+        m_nAt += ColorLength;
         return token;
     }
 
@@ -184,23 +203,6 @@ class CLexer {
         return token;
     }
 
-    static void ReadNumber(Token& token) {
-        const char c = token.text[0];
-        if (c != '-' && c != '+' && c != '.' && !std::isdigit(static_cast<unsigned char>(c))) {
-            return;
-        }
-        if (token.text.find_first_not_of("0123456789+-.eE") != std::string::npos) {
-            return;
-        }
-        char* pEnd = nullptr;
-        token.number = std::strtod(token.text.c_str(), &pEnd);
-        if (*pEnd != '\0' || !std::isfinite(token.number)) {
-            return;
-        }
-        token.kind = TokenKind::Number;
-        token.whole = token.number == std::trunc(token.number);
-    }
-
     const std::string& m_line;
     std::size_t m_nAt = 0;
     int m_nDepth = 0; ///< of the lists around the place
@@ -219,6 +221,18 @@ std::string ReadString(const std::string& text, std::size_t& nAt) {
     }
     nAt++;
     return bytes;
+}
+
+Token LexArgument(const std::string& text) {
+    Token token;
+    token.text = text;
+    if (text.size() == ColorLength && text[0] == '#' && SixDigits(text, 1)) {
+        token.kind = TokenKind::Color;
+        token.color = ColorOf(text.substr(1));
+    } else if (!text.empty()) {
+        ReadNumber(token);
+    }
+    return token;
 }
 
 LexedLine Lex(const std::string& line) { return CLexer(line).Run(); }

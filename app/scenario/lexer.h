@@ -25,6 +25,9 @@ struct LexedLine {
 
 /// Splits a line. Throws CScenarioError for a string, list or GUID that does not end or is malformed.
 LexedLine Lex(const std::string& line);
+/// The token of one word of a command line, in which a shell has already taken quotes away: a number, a
+/// colour, or else a word, whatever stands in it.
+Token LexArgument(const std::string& text);
 /// The bytes of the string whose opening quote stands at `nAt`, which moves behind the closing one. Throws
 /// CScenarioError for one that does not end or has an unknown escape.
 std::string ReadString(const std::string& text, std::size_t& nAt);

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "component/component_file.h"
 #include "image/picture_file.h"
 #include "scenario_lines.h"
 
@@ -94,6 +95,29 @@ TEST(CommandLine, RenderWritesThePageAlone) {
     const buffer_host::View pixels = buffer_host::Look(written.image.Get());
     EXPECT_EQ(pixels.Row(0)[2], 0xFF) << "no marks are drawn over the picture's corner";
     EXPECT_EQ(pixels.Row(0)[1], 0x00);
+}
+
+TEST(CommandLine, ComponentWritesItsObjectsInOrder) {
+    const CTempFileScope file(".cmp");
+    const Outcome outcome =
+        Call({"component", file.Name(), "a frame", "-5", "2", "6",   "4",  "#FF0000",
+              "mask",      "ellipse",   "FRAME",   "0",  "0", "40",  "20", "examples/button-blue.png",
+              "12",        "1",         "2",       "-3", "0", "none"});
+    ASSERT_EQ(outcome.status, 0) << outcome.err;
+
+    std::vector<ComponentObject> objects;
+    ASSERT_TRUE(LoadComponent(file.Name(), objects));
+    ASSERT_EQ(objects.size(), 3U);
+    EXPECT_TRUE(objects[0].name == "a frame" && objects[0].x == -5 && objects[2].width == -3);
+    EXPECT_EQ(buffer_host::Look(objects[0].image.Get()).pixels[2], 0xFF);
+    EXPECT_EQ(buffer_host::Look(objects[0].mask.Get()).pixels[0], 0) << "the ellipse leaves the corner free";
+    EXPECT_EQ(buffer_host::Look(objects[1].mask.Get()).width, 40) << "the picture's alpha, scaled with it";
+    EXPECT_TRUE(!objects[2].image && !objects[2].mask);
+
+    const Outcome wrong = Call({"component", file.Name(), "A", "1", "2"});
+    EXPECT_EQ(wrong.status, 2);
+    EXPECT_EQ(wrong.err.rfind("pradix: W is missing; usage: component FILE", 0), 0U) << wrong.err;
+    EXPECT_EQ(Call({"component"}).status, 2);
 }
 
 TEST(CommandLine, OutputThatIsNotWrittenIsStatusTwo) {

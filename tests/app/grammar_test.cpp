@@ -8,8 +8,8 @@
 namespace {
 
 constexpr const char* NotBuilt[] = {
-    "component f.cmp A 0 0 10 10 #FFFFFF", "shadow-mode 1", "frame query",        "service blend 50",
-    "service duplicate-scaled A 2",        "op ops:38",     "op m_fnRemoveFrame",
+    "shadow-mode 1", "frame query",        "service blend 50", "service duplicate-scaled A 2",
+    "op ops:38",     "op m_fnRemoveFrame",
 };
 
 class NotBuiltLine : public testing::TestWithParam<const char*> {};
@@ -44,6 +44,13 @@ constexpr const char* Malformed[] = {
     "page 10 10 extra",
     "scroll 1",
     "base no-such-file.png",
+    "component f.cmp",
+    "component f.cmp A 0 0 1 none",
+    "component f.cmp A 0 0 1 1 none mask",
+    "component f.cmp A 0 0 0 1 #FFFFFF",
+    "component f.cmp A 0 0 32767 32767 #FFFFFF",
+    "component f.cmp A 0 0 1 1 no-such-file.png",
+    "component no/such/f.cmp A 0 0 1 1 none",
     "picture A",
     "picture A #FF0000 1 2 3",
     "picture A #FF0000 1 2 0 4",
