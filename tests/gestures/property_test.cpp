@@ -1,8 +1,10 @@
 // Laws that hold after every gesture, over random pages and random gestures. A failing page is run again
 // alone with PRADIX_SEED=<its seed> PRADIX_GESTURES=1.
 #include <array>
+#include <climits>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <random>
 #include <set>
 #include <sstream>
@@ -21,8 +23,11 @@ constexpr int ViewHeight = 120;
 
 constexpr std::array<double, 4> Zooms = {1.0, 1.5, 0.75, 2.0};
 constexpr std::array<int, 4> Arrows = {VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN};
-constexpr std::array<const char*, 5> ToolClasses = {"CSelectTool", "CObjectPageTool", "CDisplayPageTool",
-                                                    "CImageShadowTool", "CFrameTool"};
+constexpr std::array<const char*, 6> ToolClasses = {"CSelectTool",      "CObjectPageTool", "CDisplayPageTool",
+                                                    "CImageShadowTool", "CTextShadowTool", "CFrameTool"};
+constexpr std::array<int, 5> UndoneMenuIds = {103, 104, 128, 200,
+                                              0}; ///< commands that leave no change unrecorded
+constexpr int ShadowPage = 2;
 
 constexpr std::size_t ForwardOperations = 2; ///< the first ones put the excluded node in front
 constexpr std::size_t StackingOperations = 4;
@@ -41,6 +46,13 @@ class CRandomPage : public CGestureStage {
     CRandomPage(unsigned nSeed, Draw draw) : m_random(nSeed), m_draw(draw) {
         Page(ViewWidth, ViewHeight, Zooms[Below(Zooms.size())], RandomScroll());
         stage.SetViewSize(ViewWidth, ViewHeight);
+        stage.Desk().Panels().bRealClipboard = true;
+        stage.Desk().Panels().nPageShown = Below(2) == 0 ? ShadowPage : 0;
+        if (Below(3) == 0) {
+            stage.Desk().Panels().rangeX = PanelRange{-7, 9};
+            stage.Desk().Panels().rangeY = PanelRange{-3, 12};
+        }
+        stage.UseTool(ToolClasses[Below(ToolClasses.size())]);
         AddObjects();
         stage.Trace();
     }
@@ -51,7 +63,7 @@ class CRandomPage : public CGestureStage {
         m_bExcludedLeads = false;
         stage.Names().NameNewNodes();
         m_orderBefore = TopLevelOrder();
-        const std::size_t nKind = Below(m_draw == Draw::Everything ? 18 : 9);
+        const std::size_t nKind = Below(m_draw == Draw::Everything ? 24 : 14);
         switch (nKind) {
         case 0:
         case 1: ClickSomewhere(); break;
@@ -62,14 +74,20 @@ class CRandomPage : public CGestureStage {
         case 6: NudgeIt(); break;
         case 7: SelectEverything(); break;
         case 8: QueueADrag(); break;
-        case 9: DragSomething(Ctrl::Down); break;
-        case 10: Arrange(); break;
-        case 11: DeleteIt(); break;
-        case 12: RightPressInMidDrag(); break;
-        case 13: SwitchTool(); break;
-        case 14: UndoOrRedo(); break;
-        case 15: HostChange(); break;
-        case 16: InterruptIt(); break;
+        case 9:
+        case 10: SetAShadow(); break;
+        case 11: SetDisplay(); break;
+        case 12: UseTheMenu(UndoneMenuIds[Below(UndoneMenuIds.size())]); break;
+        case 13: CopyAndPaste(); break;
+        case 14: DragSomething(Ctrl::Down); break;
+        case 15: Arrange(); break;
+        case 16: DeleteIt(); break;
+        case 17: RightPressInMidDrag(); break;
+        case 18: SwitchTool(); break;
+        case 19: UndoOrRedo(); break;
+        case 20: HostChange(); break;
+        case 21: InterruptIt(); break;
+        case 22: CommandFromTheMenu(); break;
         default: LeaveInMidDrag(); break;
         }
     }
@@ -164,8 +182,22 @@ class CRandomPage : public CGestureStage {
         }
     }
 
-    // A point on a node more often than not.
+    // The knob of the only selected object's shadow, or nothing.
+    std::optional<CPoint> Knob() {
+        const std::vector<CImgNode*> selected = Nodes(*stage.Desk().Document()->GetActList());
+        CRect rc(0, 0, 0, 0);
+        if (selected.size() != 1 || !Tool().GetNodeRect(selected[0]->m_pShadowNode, &rc)) {
+            return std::nullopt;
+        }
+        return CPoint(rc.right + 18, (rc.top + rc.bottom) / 2);
+    }
+
+    // A point on a node, or on a shadow's knob, more often than not.
     CPoint PointToPress() {
+        const std::optional<CPoint> knob = Below(4) == 0 ? Knob() : std::nullopt;
+        if (knob) {
+            return *knob;
+        }
         const std::vector<CImgNode*> nodes = Order();
         if (nodes.empty() || Below(4) == 0) {
             return RandomPoint();
@@ -233,6 +265,72 @@ class CRandomPage : public CGestureStage {
         stage.Pump();
     }
 
+    void SetAShadow() {
+        IShadowSettings* pSettings = stage.ToolInterface<IShadowSettings>();
+        if (!pSettings) {
+            ClickSomewhere();
+            return;
+        }
+        const std::size_t nWhat = Below(6);
+        const COLORREF crColor = RGB(Between(0, 255), 60, 60);
+        const int nX = Below(9) == 0 ? INT_MAX : Between(-9, 9);
+        const int nY = Below(9) == 0 ? INT_MIN : Between(-9, 9);
+        const int nSoftness = Between(-1, 6);
+        Note("shadow", CPoint(static_cast<int>(nWhat), nSoftness), CPoint(nX, nY));
+        switch (nWhat) {
+        case 0: pSettings->ApplyShadow(nX, nY, &crColor, nSoftness, Between(0, 90)); break;
+        case 1: pSettings->SetOffset(Between(0, 3), nX, nY); break;
+        case 2: pSettings->SetColor(&crColor); break;
+        case 3: pSettings->SetSoftness(nSoftness); break;
+        case 4: pSettings->SetTransparency(Between(0, 100)); break;
+        default: pSettings->RemoveShadows(); break;
+        }
+    }
+
+    void SetDisplay() {
+        ISelectionDisplay* pDisplay = stage.ToolInterface<ISelectionDisplay>();
+        if (!pDisplay) {
+            DragAHandle();
+            return;
+        }
+        const int nBrightness = Between(-1, 120);
+        const int nTransparency = Between(-1, 100);
+        Note("display", CPoint(nBrightness, nTransparency));
+        pDisplay->SetSelectionDisplay(nBrightness, -1, nTransparency);
+    }
+
+    void UseTheMenu(int nId) {
+        if (Order().size() > MostNodes / 2) {
+            nId = 0;
+        }
+        const CPoint point = PointToPress();
+        MenuChoice choice{nId, std::nullopt};
+        if (nId == 0 && Below(2) == 0) {
+            choice.dismissPress = RandomPoint();
+        }
+        Note("menu", point, choice.dismissPress.value_or(CPoint(nId, 0)));
+        m_bOrderMayChange = nId != 0; // pasted objects come to the front
+        stage.RightPress(point, choice);
+        EmptyAFullPage();
+    }
+
+    void CommandFromTheMenu() {
+        UseTheMenu(103 + static_cast<int>(Below(27)));
+        SelectionChangedUnrecorded();
+    }
+
+    void CopyAndPaste() {
+        if (Order().size() > MostNodes / 2) {
+            ClickSomewhere();
+            return;
+        }
+        Note("copy and paste");
+        stage.Key('C', 1, Ctrl::Down);
+        stage.Key('V', 1, Ctrl::Down);
+        m_bOrderMayChange = true;
+        EmptyAFullPage();
+    }
+
     void Arrange() {
         const std::size_t nOperation = Below(ArrangeOperations.size());
         Note("arrange", CPoint(static_cast<int>(nOperation), 0));
@@ -270,6 +368,7 @@ class CRandomPage : public CGestureStage {
         const bool bUndo = Below(3) != 0;
         Note(bUndo ? "undo" : "redo");
         bUndo ? stage.Undo() : stage.Redo();
+        m_bOrderMayChange = true; // what was pasted goes and comes
     }
 
     // What the host does on its own is no gesture of the tools: it repaints the page itself.
@@ -348,11 +447,17 @@ class CRandomPage : public CGestureStage {
         GetUndoMgr()->Clear();
         m_bOrderMayChange = true;
         Recompose(); // the excluded node may have come to the front
-        if (Order().size() > MostNodes) {
+        EmptyAFullPage();
+    }
+
+    void EmptyAFullPage() {
+        if (Order().size() > MostNodes && m_draw == Draw::Everything) {
             stage.Select({});
             stage.Key('A', 1, Ctrl::Down);
             stage.Key(VK_DELETE);
             GetUndoMgr()->Clear();
+            m_bOrderMayChange = true;
+            Recompose();
         }
     }
 

@@ -10,8 +10,11 @@
 #include "undo/align_event.h"
 #include "undo/arrange_event.h"
 #include "undo/attribute_changed_event.h"
+#include "undo/delete_node_event.h"
 #include "undo/display_event.h"
+#include "undo/duplicate_object_event.h"
 #include "undo/move_changed_event.h"
+#include "undo/remove_shadow_event.h"
 #include "undo/resize_changed_event.h"
 #include "undo/sel_changed_event.h"
 #include "undo/shadow_changed_event.h"
@@ -36,6 +39,9 @@ const std::vector<ClassRow>& ClassRows() {
         {RUNTIME_CLASS(CuArrangeUndoEvent), "CuArrangeUndoEvent", FALSE, FALSE},
         {RUNTIME_CLASS(CuAlignUndoEvent), "CuAlignUndoEvent", FALSE, FALSE},
         {RUNTIME_CLASS(CAddObjectUndoEvent), "CAddObjectUndoEvent", FALSE, TRUE},
+        {RUNTIME_CLASS(CDuplicateObjectUndoEvent), "CDuplicateObjectUndoEvent", FALSE, TRUE},
+        {RUNTIME_CLASS(CuDeleteNodeUndoEvent), "CuDeleteNodeUndoEvent", FALSE, TRUE},
+        {RUNTIME_CLASS(CuRemoveShadowUndoEvent), "CuRemoveShadowUndoEvent", FALSE, FALSE},
         {RUNTIME_CLASS(CuDisplayUndoEvent), "CuDisplayUndoEvent", FALSE, TRUE},
         {RUNTIME_CLASS(CObjectAttributeChangedUndoEvent), "CObjectAttributeChangedUndoEvent", TRUE, FALSE},
         {RUNTIME_CLASS(CTextEditChangedUndoEvent), "CTextEditChangedUndoEvent", FALSE, TRUE},
