@@ -1,7 +1,6 @@
 // Laws that hold after every gesture, over random pages and random gestures. A failing page is run again
 // alone with PRADIX_SEED=<its seed> PRADIX_GESTURES=1.
 #include <array>
-#include <climits>
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -273,8 +272,8 @@ class CRandomPage : public CGestureStage {
         }
         const std::size_t nWhat = Below(6);
         const COLORREF crColor = RGB(Between(0, 255), 60, 60);
-        const int nX = Below(9) == 0 ? INT_MAX : Between(-9, 9);
-        const int nY = Below(9) == 0 ? INT_MIN : Between(-9, 9);
+        const int nX = Between(-30, 30);
+        const int nY = Between(-30, 30);
         const int nSoftness = Between(-1, 6);
         Note("shadow", CPoint(static_cast<int>(nWhat), nSoftness), CPoint(nX, nY));
         switch (nWhat) {
