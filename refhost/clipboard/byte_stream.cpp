@@ -20,6 +20,8 @@ constexpr std::array<std::uint32_t, 256> CrcTable() {
 
 } // namespace
 
+void CByteWriter::Raw(ByteView bytes) { m_bytes.insert(m_bytes.end(), bytes.begin(), bytes.end()); }
+
 void CByteWriter::Counted(ByteView bytes) {
     Number(static_cast<std::uint32_t>(bytes.size()));
     Raw(bytes);

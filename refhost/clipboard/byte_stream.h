@@ -27,7 +27,7 @@ class CByteWriter {
     void Long(std::uint64_t nValue) { Append(nValue, 8); }
     void Real(double dValue) { Append(std::bit_cast<std::uint64_t>(dValue), 8); }
     /// The bytes alone, and the bytes behind their 32-bit count.
-    void Raw(ByteView bytes) { m_bytes.insert(m_bytes.end(), bytes.begin(), bytes.end()); }
+    void Raw(ByteView bytes);
     void Counted(ByteView bytes);
     void Counted(std::string_view text);
     /// Writes `nValue` over the eight bytes at `nPlace`, which were written before.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <span>
 
 #include "host/mask.h"
 #include "ops/axis.h"
@@ -96,6 +97,15 @@ CSize ShadowSizeOf(CImgNode& node) {
                              : CSize(node.m_tx.nWidth, node.m_tx.nHeight);
 }
 
+// What is filled already is copied behind itself, twice as much each time.
+void FillWith(COLORREF crColor, std::span<unsigned char> pixels, std::size_t nUnit) {
+    const unsigned char channels[4] = {GetBValue(crColor), GetGValue(crColor), GetRValue(crColor), 0};
+    std::memcpy(pixels.data(), channels, nUnit);
+    for (std::size_t nFilled = nUnit; nFilled < pixels.size(); nFilled *= 2) {
+        std::memcpy(pixels.data() + nFilled, pixels.data(), std::min(nFilled, pixels.size() - nFilled));
+    }
+}
+
 // A buffer of the soft mask's size and of the object's pixel depth, filled with the colour; 0 on failure.
 HBUF32 MakeColorBuffer(HBUF32 hSoftMask, HBUF32 hImage, COLORREF crColor) {
     int nWidth = 0;
@@ -110,11 +120,10 @@ HBUF32 MakeColorBuffer(HBUF32 hSoftMask, HBUF32 hImage, COLORREF crColor) {
     if (!pPixel) {
         return 0;
     }
-    const unsigned char channels[4] = {GetBValue(crColor), GetGValue(crColor), GetRValue(crColor), 0};
-    const std::size_t nPixels = static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight);
-    for (std::size_t i = 0; i < nPixels; ++i, pPixel += nUnit) {
-        std::memcpy(pPixel, channels, static_cast<std::size_t>(nUnit));
-    }
+    FillWith(crColor,
+             {pPixel, static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nHeight) *
+                          static_cast<std::size_t>(nUnit)},
+             static_cast<std::size_t>(nUnit));
     buf32Unlock(buffer.Get());
     return buffer.Release();
 }
