@@ -111,12 +111,18 @@ void ApplyTo(int n) {
                 static_cast<std::size_t>(page::ItemWidth) * page::ItemHeight);
     buf32Unlock(hHard);
     std::vector<CBufferPtr> kept;
+    int nTransparency = 40;
     const auto soften = [&] {
         for (int i = 0; i < n; i++) {
             CTxParam block;
             block.hMask = hHard;
             sel32SoftEdgeMakeMask(&block, 0, Softness, 0, 0, 0, 0);
             kept.emplace_back(block.hMask);
+        }
+        // What has changed is composed, so every shadow does.
+        nTransparency = 40 - nTransparency;
+        for (CImgNode* pNode : stage.Nodes()) {
+            pNode->m_pShadowNode->m_fnUpdateBCAndT(0, 0, nTransparency);
         }
         stage.RecomposeAll();
     };
