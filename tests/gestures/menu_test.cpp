@@ -256,35 +256,14 @@ TEST_F(ContextMenu, CommandsReachTheirOperations) {
     EXPECT_EQ(stage.Rect("A").right, 330);
     choose(127);
     EXPECT_EQ(stage.Rect("C").Size(), CSize(60, 50));
-    stage.Calls();
     stage.Select({"A"});
     const CPoint ptOnA = stage.Rect("A").TopLeft() + CSize(3, 3);
     stage.RightPress(ptOnA, {112, std::nullopt});
     EXPECT_EQ(stage.PageNames().back(), "A.shadow");
     stage.RightPress(ptOnA, {113, std::nullopt});
     EXPECT_EQ(stage.Node("A")->m_pShadowNode, nullptr);
-    stage.Calls();
-    stage.RightPress(ptOnA, {104, std::nullopt});
-    bool bPasted = false;
-    for (const trace::Row& row : stage.Calls()) {
-        bPasted = bPasted || (row.on == "edit:12" && row.op == "4" && std::get<long long>(row.args[1]) == 0);
-    }
-    EXPECT_TRUE(bPasted) << "at the point, with the flag 0";
     stage.RightPress(ptOnA, {105, std::nullopt});
     EXPECT_EQ(stage.PageNames(), (Names{"C", "B"}));
-}
-
-TEST_F(ContextMenu, RightPressEndsWhatRuns) {
-    Picture("A", 100, 100, 40, 30);
-    stage.Select({"A"});
-    stage.Press({110, 110});
-    stage.Move({120, 110});
-    stage.Move({130, 110});
-    stage.RightPress({140, 110});
-    EXPECT_EQ(stage.Rect("A").left, 130);
-    EXPECT_EQ(stage.UndoClasses(), Names{"CMoveChangedUndoEvent"});
-    EXPECT_FALSE(HasCapture());
-    EXPECT_EQ(Offered(), "103 104 105");
 }
 
 } // namespace

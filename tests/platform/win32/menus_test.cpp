@@ -95,18 +95,6 @@ TEST_F(Menu, OnlyWhatIsOfferedIsChosen) {
     EXPECT_EQ(Choose(Copy), 0) << "nobody is there to choose";
 }
 
-TEST_F(Menu, WithoutTheAnswerTheOwnerGetsTheCommand) {
-    EnableMenuItem(m_popup, Copy, MF_ENABLED);
-    m_hand.wanted = Copy;
-    EXPECT_TRUE(TrackPopupMenu(m_popup, 0, 0, 0, 0, m_owner, nullptr));
-    MSG message;
-    ASSERT_TRUE(PeekMessageA(&message, m_owner, WM_COMMAND, WM_COMMAND, PM_REMOVE));
-    EXPECT_EQ(message.wParam, Copy);
-    EXPECT_FALSE(TrackPopupMenu(m_popup, 0, 0, 0, 0, nullptr, nullptr));
-    EXPECT_FALSE(TrackPopupMenu(nullptr, 0, 0, 0, 0, m_owner, nullptr));
-    EXPECT_EQ(GetLastError(), ERROR_INVALID_MENU_HANDLE);
-}
-
 TEST_F(Menu, IsMissingWhereTheModuleHasNone) {
     EXPECT_EQ(LoadMenuA(m_module, MAKEINTRESOURCEA(102)), nullptr);
     EXPECT_EQ(GetLastError(), ERROR_RESOURCE_NAME_NOT_FOUND);
