@@ -1,174 +1,238 @@
-// Shadows by hand, display values and the context menu.
+// Shadows, display values and the context menu: dragging a shadow, giving many objects one, setting values of
+// many, and opening the menu among many.
 // Usage: bench_shadow
-#include "buffer/buffer_host.h"
 #include "canvas.h"
+#include "host/buffer.h"
 #include "host/mask.h"
+#include "image/node_host.h"
 #include "image/picture_node.h"
-
-#include <cstring>
 
 namespace {
 
 using measure::Check;
+using measure::NowUs;
 
 constexpr char Peer[] = "pradix";
-constexpr int Samples = 40;
-constexpr int MoveSamples = 400;
-constexpr int ShadowPage = 2;
-constexpr COLORREF ShadowColor = RGB(0x20, 0x20, 0x30);
+constexpr int ShadowPage = 2; ///< the number that the host's page area answers while its shadow page shows
+constexpr CSize ShadowOffset = {6, 5};
+constexpr COLORREF ShadowColor = RGB(16, 32, 48);
 constexpr int Softness = 4;
+constexpr int Transparency = 40;
+constexpr int HandleFromEdge = 18; ///< client pixels from a shadow's right edge to its handle's centre
+constexpr CPoint Press = {page::PressX, page::PressY};
+constexpr CSize MoveStep = {3, 2}; ///< client pixels
+constexpr int Moves = 60;
+constexpr int Rounds = 10;
+constexpr CSize ItemSize = {page::ItemWidth, page::ItemHeight};
 
-CImgNode* MakeItem(CVorDoc& doc, int i, const CRect& rect) {
-    Picture picture;
-    Check(SolidPicture(page::RgbAt(i % page::Pictures, 7, 9), rect.Width(), rect.Height(), picture),
-          "making a picture");
-    return MakePictureNode(doc, std::move(picture), rect);
-}
+enum class Spread { No, Yes };
 
-/// A page of n pictures of 60 by 45 as thick as a hundred lie, in the hand of a shadow tool.
-class CShadowStage : public CCanvasStage {
+int Growing(int n) { return std::max(n, 100); }
+
+/// Round pictures of 60 by 45 on a page; `n` of them lie on 720 by 480, or as thick as a hundred do.
+class CShadowBench {
   public:
-    explicit CShadowStage(int n, const char* pszTool = "CImageShadowTool")
-        : CCanvasStage(GrowthFor(std::max(n, 100))) {
-        Check(UseTool(pszTool), "the tool");
-        Desk().Panels().nPageShown = ShadowPage;
-        for (int i = 0; i < n; i++) {
-            const page::Place at = i == n - 1 ? page::Place{page::TopX, page::TopY}
-                                              : page::PlaceOf(i, n, PageWidth(), PageHeight());
-            Add(MakeItem(Document(), i, CRect(CPoint(at.x, at.y), CSize(page::ItemWidth, page::ItemHeight))));
-        }
-        RecomposeAll();
+    CShadowBench(int n, Spread spread, const char* pszTool);
+
+    void DragShadow(const std::string& suffix);
+    void Apply();
+    void Display();
+    void OpenMenu(const std::string& suffix);
+
+  private:
+    CImgNode& Top() { return *m_stage.Nodes().back(); }
+    IShadowSettings& Settings() { return *m_stage.ToolInterface<IShadowSettings>(); }
+    void ShowWholePage() { m_stage.SetViewSize(m_stage.PageWidth(), m_stage.PageHeight()); }
+    int ApplyToSelected() {
+        return Settings().ApplyShadow(ShadowOffset.cx, ShadowOffset.cy, &ShadowColor, Softness, Transparency);
     }
-    IShadowSettings& Settings() { return *ToolInterface<IShadowSettings>(); }
-    void SelectTop() {
-        Ops().ClearSelection();
-        CNodeRefList nodes;
-        nodes.AddTail(Nodes().back());
-        Ops().AddToSelection(nodes);
-        RecomposeAll();
-    }
-    /// The mean of one step of a drag that goes to and fro.
-    void MeasureDrag(const char* pszCase, CPoint ptFrom) {
-        std::vector<double> us;
-        Press(ptFrom);
-        Move(ptFrom + CSize(10, 4));
-        for (int i = 0; i < MoveSamples; i++) {
-            const CPoint ptTo = ptFrom + (i % 2 == 0 ? CSize(14, 8) : CSize(10, 4));
-            const double dStart = measure::NowUs();
-            Move(ptTo);
-            Paint();
-            us.push_back(measure::NowUs() - dStart);
-        }
-        Release(ptFrom);
-        measure::Figure(Peer, pszCase, static_cast<int>(Nodes().size()), us);
-    }
+    void SelectTop();
+    double Step(CPoint point);
+    template <class Place>
+    double Drag(const std::string& name, CPoint ptFrom, Place place);
+    void SoftMaskOfEach();
+    void ComposeEach();
+
+    int m_n;
+    CPaintCounter m_paints;
+    CCanvasStage m_stage;
 };
 
-// One of many shadowed pictures: its shadow by the knob, and the picture itself on the same page.
-void DragAmong(int n) {
-    CShadowStage stage(n);
-    stage.SelectEvery();
-    Check(stage.Settings().ApplyShadow(6, 6, &ShadowColor, Softness, 40) == 1, "shadows");
-    stage.ForgetSteps();
-    stage.SelectTop();
-    CImgNode* const pShadow = stage.Nodes().back()->m_pShadowNode;
-    Check(pShadow != nullptr, "a shadow");
-    const CPoint ptKnob(pShadow->m_tx.nX + page::ItemWidth + 18, pShadow->m_tx.nY + page::ItemHeight / 2);
-    const int nBefore = pShadow->m_tx.nX;
-    stage.Press(ptKnob);
-    stage.Move(ptKnob + CSize(10, 0));
-    Check(pShadow->m_tx.nX == nBefore + 10, "dragging the knob");
-    stage.Move(ptKnob);
-    stage.Release(ptKnob);
-    stage.MeasureDrag("shadow_drag_step", ptKnob);
-    stage.Desk().Panels().nPageShown = 0;
-    Check(stage.UseTool("CSelectTool"), "the select tool");
-    stage.SelectTop();
-    stage.MeasureDrag("move_drag_step", CPoint(page::PressX, page::PressY));
-}
-
-// Against the least that it needs: the soft mask and one composition of each.
-void ApplyTo(int n) {
-    CShadowStage stage(n);
-    stage.SelectEvery();
-    measure::Figure(Peer, "shadow_apply", n,
-                    measure::TimedAfter(
-                        Samples,
-                        [&] {
-                            stage.Settings().RemoveShadows();
-                            stage.ForgetSteps();
-                            stage.Paint();
-                        },
-                        [&] {
-                            stage.Settings().ApplyShadow(6, 6, &ShadowColor, Softness, 40);
-                            stage.Paint();
-                        }));
-    stage.ForgetSteps();
-    HBUF32 hHard = 0;
-    Check(buf32Alloc(&hHard, 8, page::ItemWidth, page::ItemHeight, 1, nullptr) == 1, "a mask");
-    const CBufferPtr hard(hHard);
-    std::memset(buf32Lock(hHard, BufReadWrite), 0xFF,
-                static_cast<std::size_t>(page::ItemWidth) * page::ItemHeight);
-    buf32Unlock(hHard);
-    std::vector<CBufferPtr> kept;
-    int nTransparency = 40;
-    const auto soften = [&] {
-        for (int i = 0; i < n; i++) {
-            CTxParam block;
-            block.hMask = hHard;
-            sel32SoftEdgeMakeMask(&block, 0, Softness, 0, 0, 0, 0);
-            kept.emplace_back(block.hMask);
-        }
-        // What has changed is composed, so every shadow does.
-        nTransparency = 40 - nTransparency;
-        for (CImgNode* pNode : stage.Nodes()) {
-            pNode->m_pShadowNode->m_fnUpdateBCAndT(0, 0, nTransparency);
-        }
-        stage.RecomposeAll();
-    };
-    measure::Figure(Peer, "soft_masks_and_one_composition", n,
-                    measure::TimedAfter(
-                        Samples, [&] { kept.clear(); }, soften));
-}
-
-void OpenTheMenu(int n) {
-    CShadowStage stage(n, "CSelectTool");
-    stage.Ops().ClearSelection();
-    CNodeRefList half;
-    for (int i = 0; i < n; i += 2) {
-        half.AddTail(stage.Nodes()[static_cast<std::size_t>(i)]);
+CShadowBench::CShadowBench(int n, Spread spread, const char* pszTool)
+    : m_n(n), m_stage(spread == Spread::Yes ? CCanvasStage::GrowthFor(Growing(n)) : 1.0) {
+    Check(m_stage.UseTool(pszTool), pszTool);
+    for (int i = 0; i < n; i++) {
+        const page::Place at = page::PlaceOf(i, n, m_stage.PageWidth(), m_stage.PageHeight());
+        Picture picture;
+        Check(SolidPicture(page::RgbAt(i % page::Pictures, 7, 9), ItemSize.cx, ItemSize.cy, picture) &&
+                  AddEllipseMask(picture),
+              "making a picture");
+        m_stage.Add(
+            MakePictureNode(m_stage.Document(), std::move(picture), CRect(CPoint(at.x, at.y), ItemSize)));
     }
-    half.AddTail(stage.Nodes().back());
-    stage.Ops().AddToSelection(half);
-    stage.RecomposeAll();
-    measure::Figure(Peer, "context_menu", n,
-                    measure::Timed(Samples, [&] { stage.RightPress(CPoint(page::PressX, page::PressY)); }));
-    Check(stage.LastMenu().has_value(), "a menu");
-    stage.Paint();
+    m_stage.RecomposeAll();
 }
 
-void SetDisplayOf(int n) {
-    CShadowStage stage(n, "CDisplayPageTool");
-    stage.SelectEvery();
-    ISelectionDisplay& display = *stage.ToolInterface<ISelectionDisplay>();
-    int nBrightness = 0;
-    measure::Figure(Peer, "display_values", n,
-                    measure::TimedAfter(
-                        Samples, [&] { stage.ForgetSteps(); },
-                        [&] {
-                            display.SetSelectionDisplay(nBrightness = 30 - nBrightness, -1, -1);
-                            stage.Paint();
-                        }));
+void CShadowBench::SelectTop() {
+    m_stage.Ops().ClearSelection();
+    CNodeRefList nodes;
+    nodes.AddTail(&Top());
+    m_stage.Ops().AddToSelection(nodes);
+    m_stage.RecomposeAll();
+}
+
+/// One mouse move and all the painting that it causes; answers its time.
+double CShadowBench::Step(CPoint point) {
+    const long nPaints = m_paints.Paints();
+    const double dStart = NowUs();
+    m_stage.Move(point);
+    m_stage.Paint();
+    const double dTime = NowUs() - dStart;
+    Check(m_paints.Paints() == nPaints + 1, "one repaint per move");
+    return dTime;
+}
+
+// `place` tells where the dragged node stands.
+template <class Place>
+double CShadowBench::Drag(const std::string& name, CPoint ptFrom, Place place) {
+    std::vector<double> us;
+    long nPixels = 0;
+    for (int nRound = -1; nRound < Rounds; nRound++) {
+        const CPoint from = place();
+        m_stage.Press(ptFrom);
+        m_stage.Paint();
+        const long nBefore = m_paints.Pixels();
+        CSize way;
+        for (int nMove = 1; nMove <= Moves; nMove++) {
+            way = CSize(MoveStep.cx * nMove, MoveStep.cy * nMove);
+            const double dTime = Step(ptFrom + way);
+            Check(nMove == 1 || place() == from + way, "the dragged node's place during the drag");
+            if (nRound >= 0) {
+                us.push_back(dTime);
+            }
+        }
+        nPixels = (m_paints.Pixels() - nBefore) / Moves;
+        m_stage.Release(ptFrom + way);
+        m_stage.Paint();
+        Check(GetUndoMgr()->GetUndoEvent(0) && !GetUndoMgr()->GetUndoEvent(1), "one step of one drag");
+        m_stage.Undo();
+        m_stage.Paint();
+        m_stage.ForgetSteps();
+        Check(place() == from, "the undone place");
+    }
+    return measure::Figure(Peer, name, m_n, us, ",\"pixels_per_move\":" + std::to_string(nPixels));
+}
+
+// The same object's move, its shadow with it, stands beside it.
+void CShadowBench::DragShadow(const std::string& suffix) {
+    m_stage.Desk().Panels().nPageShown = ShadowPage;
+    m_stage.SelectEvery();
+    Check(ApplyToSelected() == 1, "the shadows");
+    SelectTop();
+    m_stage.ForgetSteps();
+    const auto shadowPlace = [this] {
+        return CPoint(Top().m_pShadowNode->m_tx.nX, Top().m_pShadowNode->m_tx.nY);
+    };
+    const auto objectPlace = [this] { return CPoint(Top().m_tx.nX, Top().m_tx.nY); };
+    const CPoint ptHandle = shadowPlace() + CSize(page::ItemWidth + HandleFromEdge, page::ItemHeight / 2);
+    const double dMove = Drag("move_shadowed" + suffix, Press, objectPlace);
+    const double dDrag = Drag("drag_shadow" + suffix, ptHandle, shadowPlace);
+    std::fprintf(stderr, "drag of a shadow by move of its object%s: %.2f\n", suffix.c_str(), dDrag / dMove);
+}
+
+void CShadowBench::SoftMaskOfEach() {
+    for (const CImgNode* pNode : m_stage.Nodes()) {
+        CTxParam block;
+        block.hMask = pNode->m_tx.hMask;
+        Check(sel32SoftEdgeMakeMask(&block, 0, Softness, 0, 0, 0, 0) == 1, "softening");
+        buf32Free(block.hMask);
+    }
+}
+
+// Composes once, and paints, what a change of every object and shadow leaves out of date.
+void CShadowBench::ComposeEach() {
+    CRect rcAll(0, 0, 0, 0);
+    for (const CImgNode* pNode : m_stage.Nodes()) {
+        CRect rc = CNodeBookkeeping::NodeRect(*pNode);
+        rc.UnionRect(&rc, CNodeBookkeeping::NodeRect(*pNode->m_pShadowNode));
+        CNodeBookkeeping::Changed(m_stage.Document()).Add(rc);
+        rcAll.UnionRect(&rcAll, &rc);
+    }
+    m_stage.View().m_fnFlushCacheRect(rcAll);
+    m_stage.Paint();
+}
+
+void CShadowBench::Apply() {
+    const int nSamples = m_n >= 1000 ? 15 : 50;
+    ShowWholePage();
+    m_stage.SelectEvery();
+    const auto reset = [this] {
+        Check(Settings().RemoveShadows() == 1, "taking the shadows off");
+        m_stage.ForgetSteps();
+        m_stage.Paint();
+    };
+    const auto applied = measure::TimedAfter(nSamples, reset, [this] {
+        Check(ApplyToSelected() == 1, "applying");
+        m_stage.Paint();
+    });
+    Check(m_stage.Document().GetObjList()->GetCount() == 2 * m_n && GetUndoMgr()->GetUndoEvent(0),
+          "a shadow for each");
+    const double dApplied = measure::Figure(Peer, "apply_shadow", m_n, applied);
+    const double dMasks =
+        measure::Figure(Peer, "soft_masks", m_n, measure::Timed(nSamples, [this] { SoftMaskOfEach(); }));
+    const double dComposed =
+        measure::Figure(Peer, "compose_shadowed", m_n, measure::Timed(nSamples, [this] { ComposeEach(); }));
+    std::fprintf(stderr, "%d shadows by masks and composition: %.2f\n", m_n, dApplied / (dMasks + dComposed));
+}
+
+// Both settings differ from what the objects have, so that every command changes all of them.
+void CShadowBench::Display() {
+    ShowWholePage();
+    m_stage.SelectEvery();
+    ISelectionDisplay* const pDisplay = m_stage.ToolInterface<ISelectionDisplay>();
+    Check(pDisplay != nullptr, "a tool that sets display values");
+    int nBrightness = 20;
+    const auto us = measure::TimedAfter(
+        31, [this] { m_stage.ForgetSteps(); },
+        [&] {
+            nBrightness = -nBrightness;
+            Check(pDisplay->SetSelectionDisplay(nBrightness, 10, 30) == 1, "the values");
+            m_stage.Paint();
+        });
+    Check(Top().m_nBrightness == nBrightness && GetUndoMgr()->GetUndoEvent(0), "the values of every object");
+    measure::Figure(Peer, "set_display", m_n, us);
+}
+
+// Every second object is selected, the one under the point among them. The person chooses nothing.
+void CShadowBench::OpenMenu(const std::string& suffix) {
+    m_stage.Desk().Panels().bRealClipboard = true;
+    CNodeRefList nodes;
+    for (std::size_t i = m_stage.Nodes().size() % 2 == 0 ? 1 : 0; i < m_stage.Nodes().size(); i += 2) {
+        nodes.AddTail(m_stage.Nodes()[i]);
+    }
+    m_stage.Ops().AddToSelection(nodes);
+    m_stage.RecomposeAll();
+    const auto us = measure::Timed(101, [this] {
+        m_stage.RightPress(Press);
+        m_stage.Paint();
+    });
+    Check(m_stage.LastMenu().has_value() && m_stage.SelectedCount() == static_cast<int>(nodes.GetCount()),
+          "the menu on the selection");
+    measure::Figure(Peer, "open_menu" + suffix, m_n, us,
+                    ",\"selected\":" + std::to_string(m_stage.SelectedCount()));
 }
 
 } // namespace
 
 int main() {
-    DragAmong(1000);
+    // One stage lives at a time.
+    CShadowBench(1000, Spread::No, "CImageShadowTool").DragShadow("");
+    CShadowBench(1000, Spread::Yes, "CImageShadowTool").DragShadow("_spread");
     for (const int n : {1, 100, 1000}) {
-        ApplyTo(n);
+        CShadowBench(n, Spread::Yes, "CImageShadowTool").Apply();
     }
-    OpenTheMenu(10000);
-    SetDisplayOf(1000);
+    CShadowBench(1000, Spread::Yes, "CDisplayPageTool").Display();
+    CShadowBench(10000, Spread::No, "CSelectTool").OpenMenu("");
+    CShadowBench(10000, Spread::Yes, "CSelectTool").OpenMenu("_spread");
     return 0;
 }
